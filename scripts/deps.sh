@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building and testing zerbal need, when missing.
+# Sourced by the other scripts; the machines run as root, otherwise sudo is used.
+set -euo pipefail
+
+zerbal_packages=(cmake g++ make pkg-config libsqlite3-dev libgtest-dev libbenchmark-dev nlohmann-json3-dev)
+
+zerbal_install_deps() {
+  local missing=()
+  local p
+  for p in "${zerbal_packages[@]}"; do
+    dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  echo "Installing: ${missing[*]}" >&2
+  local sudo=""
+  [ "$(id -u)" -eq 0 ] || sudo="sudo"
+  $sudo apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
+}
+
+# Configures and builds into build/ (Release unless ZERBAL_BUILD_TYPE says otherwise).
+zerbal_build() {
+  local root
+  root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+  cmake -S "$root" -B "$root/build" -DCMAKE_BUILD_TYPE="${ZERBAL_BUILD_TYPE:-Release}" "$@" >/dev/null
+  cmake --build "$root/build" -j"$(nproc)"
+}
