@@ -81,14 +81,16 @@ class Variant {
   friend bool operator==(const Variant& a, const Variant& b);
 
  private:
-  VarKind kind_;
-  union {
-    int16_t integer_;
-    int32_t long_;
-    uint8_t byte_;
-    bool boolean_;
-    double double_;
+  union Scalar {
+    int16_t integer;
+    int32_t lng;
+    uint8_t byte;
+    bool boolean;
+    double dbl;
   };
+
+  VarKind kind_;
+  Scalar scalar_{};
   std::string string_;
   std::unique_ptr<Array> array_;
 };

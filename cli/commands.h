@@ -1,0 +1,28 @@
+// The commands of the zerbal tool. Each takes the arguments after its name,
+// writes its output to `out` and its messages to `err`, and returns the exit
+// status: 0 on success, 1 when the work failed, 2 on bad usage.
+
+#ifndef ZERBAL_CLI_COMMANDS_H_
+#define ZERBAL_CLI_COMMANDS_H_
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace zerbal::cli {
+
+using Args = std::vector<std::string>;
+
+int RunInit(const Args& args, std::ostream& out, std::ostream& err);
+int RunDemo(const Args& args, std::ostream& out, std::ostream& err);
+
+// Writes "zerbal: <description> (error <number>)" for the error being
+// handled and returns 1. Call only inside a catch block.
+int ReportError(std::ostream& err);
+
+// Whether `args` asks for help ("--help" or "-h").
+bool WantsHelp(const Args& args);
+
+}  // namespace zerbal::cli
+
+#endif  // ZERBAL_CLI_COMMANDS_H_

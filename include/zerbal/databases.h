@@ -1,0 +1,35 @@
+// Creating the two database files: the data database, with every table and
+// the one settings row, and the lookup database, with every table and its
+// reference data.
+//
+// A file is built under a temporary name beside its final one and renamed
+// into place when complete, so a failure never leaves a partial file.
+
+#ifndef ZERBAL_DATABASES_H_
+#define ZERBAL_DATABASES_H_
+
+#include <filesystem>
+#include <string_view>
+
+namespace zerbal {
+
+inline constexpr std::string_view kDataFileName = "347mod.db";
+inline constexpr std::string_view kLookupFileName = "347lec.db";
+
+// Each raises 58 when a file is already at `path`, unless `replace` is true;
+// 76 when the folder of `path` does not exist.
+void CreateDataDatabase(const std::filesystem::path& path, bool replace = false);
+void CreateLookupDatabase(const std::filesystem::path& path, bool replace = false);
+
+struct DatabasePaths {
+  std::filesystem::path data;    // folder / 347mod.db
+  std::filesystem::path lookup;  // folder / 347lec.db
+};
+
+// Creates both files in `folder`, creating the folder when missing. Without
+// `replace`, refuses (58) when either file exists, before creating any.
+DatabasePaths CreateDatabases(const std::filesystem::path& folder, bool replace = false);
+
+}  // namespace zerbal
+
+#endif  // ZERBAL_DATABASES_H_

@@ -1,0 +1,142 @@
+#include "data/database.h"
+
+#include <limits>
+
+#include "base/convert.h"
+#include "base/raise.h"
+#include "data/engine.h"
+#include "data/recordset_state.h"
+#include "data/sqlite.h"
+
+namespace zerbal::data {
+namespace {
+
+Variant ColumnValue(sqlite3_stmt* stmt, int column) {
+  switch (sqlite3_column_type(stmt, column)) {
+    case SQLITE_NULL:
+      return Variant::Null();
+    case SQLITE_INTEGER: {
+      const int64_t n = sqlite3_column_int64(stmt, column);
+      // The original engine has no wider whole number than 32 bits.
+      if (n >= std::numeric_limits<int32_t>::min() && n <= std::numeric_limits<int32_t>::max()) {
+        return Variant(static_cast<int32_t>(n));
+      }
+      return Variant(static_cast<double>(n));
+    }
+    case SQLITE_FLOAT:
+      return Variant(sqlite3_column_double(stmt, column));
+    default: {
+      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, column));
+      return Variant(std::string(text ? text : "", sqlite3_column_bytes(stmt, column)));
+    }
+  }
+}
+
+// Statements of the original engine's language only: no engine-specific
+// commands (ATTACH, PRAGMA, VACUUM, ...), which could reach other files.
+void CheckKind(std::string_view sql) {
+  static constexpr std::string_view kAllowed[] = {"SELECT", "INSERT", "UPDATE", "DELETE",
+                                                  "CREATE", "ALTER", "DROP"};
+  const size_t begin = sql.find_first_not_of(" \t\r\n(");
+  const std::string first =
+      begin == std::string_view::npos ? "" : UCase(sql.substr(begin, 6));
+  for (std::string_view word : kAllowed) {
+    if (first.starts_with(word)) return;
+  }
+  Raise(errc::kNotAStatement, sql.substr(0, 40), kEngineSource);
+}
+
+}  // namespace
+
+Database::Database(std::shared_ptr<EngineConnection> connection, std::string name)
+    : connection_(std::move(connection)), name_(std::move(name)) {}
+
+Database::Database(Database&&) noexcept = default;
+
+Database& Database::operator=(Database&& other) noexcept {
+  if (this != &other) {
+    Close();
+    connection_ = std::move(other.connection_);
+    name_ = std::move(other.name_);
+    recordsets_ = std::move(other.recordsets_);
+  }
+  return *this;
+}
+
+Database::~Database() { Close(); }
+
+EngineConnection& Database::Connection() const {
+  if (!connection_) Raise(errc::kObjectClosed, {}, kEngineSource);
+  return *connection_;
+}
+
+void Database::Execute(std::string_view sql, int options) {
+  EngineConnection& conn = Connection();
+  CheckKind(sql);
+  Statement stmt = PrepareOne(conn.db(), conn.Translate(sql));
+  if (sqlite3_column_count(stmt.get()) > 0) Raise(errc::kSelectInExecute, {}, kEngineSource);
+  int rc;
+  while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
+  }
+  if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
+}
+
+Recordset Database::OpenRecordset(std::string_view sql, int type) {
+  EngineConnection& conn = Connection();
+  CheckKind(sql);
+  Statement stmt = PrepareOne(conn.db(), conn.Translate(sql));
+  const int columns = sqlite3_column_count(stmt.get());
+  if (columns == 0) Raise(errc::kInvalidOperation, {}, kEngineSource);
+  auto state = std::make_shared<RecordsetState>();
+  for (int c = 0; c < columns; ++c) state->names.emplace_back(sqlite3_column_name(stmt.get(), c));
+  int rc;
+  while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
+    if (state->rows == std::numeric_limits<int32_t>::max()) Raise(errc::kOutOfMemory);
+    for (int c = 0; c < columns; ++c) state->values.push_back(ColumnValue(stmt.get(), c));
+    ++state->rows;
+  }
+  if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
+  std::erase_if(recordsets_, [](const auto& weak) { return weak.expired(); });
+  recordsets_.push_back(state);
+  return RecordsetStateAccess::Make(std::move(state));
+}
+
+std::vector<std::shared_ptr<RecordsetState>> Database::LiveRecordsets() const {
+  std::vector<std::shared_ptr<RecordsetState>> live;
+  for (const auto& weak : recordsets_) {
+    if (auto state = weak.lock(); state && state->open) live.push_back(std::move(state));
+  }
+  return live;
+}
+
+int Database::RecordsetCount() const {
+  Connection();
+  return static_cast<int>(LiveRecordsets().size());
+}
+
+Recordset Database::RecordsetAt(int index) const {
+  Connection();
+  auto live = LiveRecordsets();
+  if (index < 0 || index >= static_cast<int>(live.size())) {
+    Raise(errc::kItemNotFound, {}, kEngineSource);
+  }
+  return RecordsetStateAccess::Make(live[index]);
+}
+
+void Database::Close() {
+  for (const auto& state : LiveRecordsets()) state->Close();
+  recordsets_.clear();
+  connection_.reset();
+}
+
+Workspace::Workspace(std::string name, std::string user, std::string password, int type)
+    : name_(std::move(name)), user_(std::move(user)) {}
+
+Database Workspace::OpenDatabase(const std::string& path, bool exclusive, bool read_only,
+                                 std::string_view connect) {
+  if (!open_) Raise(errc::kObjectClosed, {}, kEngineSource);
+  if (!connect.empty()) Raise(errc::kCannotOpen, "connect strings are not supported", kEngineSource);
+  return Database(AcquireConnection(path, read_only), path);
+}
+
+}  // namespace zerbal::data

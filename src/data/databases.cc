@@ -1,0 +1,101 @@
+#include "zerbal/databases.h"
+
+#include <unistd.h>
+
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include "base/raise.h"
+#include "data/engine.h"
+#include "data/resources.h"
+
+namespace zerbal {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The scripts that build each database, in order.
+const std::vector<std::string_view> kDataScripts = {"data_schema.sql"};
+const std::vector<std::string_view> kLookupScripts = {"lookup_schema.sql"};
+
+fs::path WithSuffix(const fs::path& path, std::string_view suffix) {
+  return fs::path(path.string() + std::string(suffix));
+}
+
+void RemoveQuietly(const fs::path& path) {
+  std::error_code ignored;
+  for (std::string_view suffix : {"", "-wal", "-shm", "-journal"}) {
+    fs::remove(WithSuffix(path, suffix), ignored);
+  }
+}
+
+void CheckTarget(const fs::path& path, bool replace) {
+  std::error_code ec;
+  const fs::path folder = path.parent_path();
+  if (!folder.empty() && !fs::is_directory(folder, ec)) Raise(errc::kPathNotFound, folder.string());
+  if (!replace && fs::exists(path, ec)) Raise(errc::kFileAlreadyExists, path.string());
+}
+
+void Build(const fs::path& file, const std::vector<std::string_view>& scripts) {
+  sqlite3* raw = nullptr;
+  const int rc = sqlite3_open_v2(file.c_str(), &raw,
+                                 SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXRESCODE,
+                                 nullptr);
+  data::DbHandle db(raw);
+  if (rc != SQLITE_OK) data::RaiseEngineError(rc, raw);
+  std::string sql = "PRAGMA application_id = " + std::to_string(data::kApplicationId) +
+                    "; PRAGMA user_version = 1; BEGIN;\n";
+  for (std::string_view name : scripts) {
+    const std::string_view text = Resource(name);
+    if (text.empty()) Raise(errc::kFileNotFound, name);
+    sql.append(text).append("\n");
+  }
+  sql += "COMMIT; PRAGMA journal_mode = WAL;";
+  data::ExecScript(db.get(), sql);
+}
+
+// Builds under a temporary name, then renames into place.
+void Create(const fs::path& path, bool replace, const std::vector<std::string_view>& scripts) {
+  CheckTarget(path, replace);
+  const fs::path temp = WithSuffix(path, ".tmp-" + std::to_string(::getpid()));
+  RemoveQuietly(temp);
+  try {
+    Build(temp, scripts);
+    // The old file's log and index must not outlive it next to the new file.
+    std::error_code ignored;
+    fs::remove(WithSuffix(path, "-wal"), ignored);
+    fs::remove(WithSuffix(path, "-shm"), ignored);
+    fs::rename(temp, path);
+  } catch (const fs::filesystem_error& e) {
+    RemoveQuietly(temp);
+    Raise(errc::kPathFileAccess, e.what());
+  } catch (...) {
+    RemoveQuietly(temp);
+    throw;
+  }
+}
+
+}  // namespace
+
+void CreateDataDatabase(const fs::path& path, bool replace) {
+  Create(path, replace, kDataScripts);
+}
+
+void CreateLookupDatabase(const fs::path& path, bool replace) {
+  Create(path, replace, kLookupScripts);
+}
+
+DatabasePaths CreateDatabases(const fs::path& folder, bool replace) {
+  DatabasePaths paths{folder / kDataFileName, folder / kLookupFileName};
+  std::error_code ec;
+  fs::create_directories(folder, ec);
+  if (ec) Raise(errc::kPathNotFound, folder.string() + ": " + ec.message());
+  CheckTarget(paths.data, replace);
+  CheckTarget(paths.lookup, replace);
+  CreateDataDatabase(paths.data, replace);
+  CreateLookupDatabase(paths.lookup, replace);
+  return paths;
+}
+
+}  // namespace zerbal

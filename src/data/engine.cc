@@ -1,0 +1,163 @@
+#include "data/engine.h"
+
+#include <sys/stat.h>
+
+#include <atomic>
+#include <filesystem>
+#include <list>
+
+#include "base/convert.h"
+#include "base/raise.h"
+#include "data/jet_like.h"
+
+namespace zerbal::data {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Connections kept per thread; a few cover the data and the lookup database
+// with room for a second pair, and bound the open files.
+constexpr size_t kKeptConnections = 4;
+
+std::atomic<int64_t> g_busy_timeout_ms{5000};
+
+void LikeFunction(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
+  if (sqlite3_value_type(argv[0]) == SQLITE_NULL || sqlite3_value_type(argv[1]) == SQLITE_NULL) {
+    sqlite3_result_null(ctx);
+    return;
+  }
+  auto text = [](sqlite3_value* v) {
+    const auto* p = reinterpret_cast<const char*>(sqlite3_value_text(v));
+    return std::string_view(p ? p : "", static_cast<size_t>(sqlite3_value_bytes(v)));
+  };
+  // The engine calls like(pattern, value) for "value LIKE pattern".
+  sqlite3_result_int(ctx, JetLike(text(argv[1]), text(argv[0])) ? 1 : 0);
+}
+
+int64_t QueryInt(sqlite3* db, const char* sql) {
+  Statement stmt = PrepareOne(db, sql);
+  const int rc = sqlite3_step(stmt.get());
+  if (rc == SQLITE_ROW) return sqlite3_column_int64(stmt.get(), 0);
+  if (rc != SQLITE_DONE) RaiseEngineError(rc, db);
+  return 0;
+}
+
+// The text columns that some index starts with: the only ones where a
+// range helps a LIKE.
+IndexedTextColumns FindIndexedTextColumns(sqlite3* db) {
+  IndexedTextColumns names;
+  Statement stmt = PrepareOne(
+      db,
+      "SELECT lower(c.name) FROM sqlite_schema AS m, pragma_index_list(m.name) AS il, "
+      "pragma_index_info(il.name) AS ii, pragma_table_info(m.name) AS c "
+      "WHERE m.type = 'table' AND ii.seqno = 0 AND c.name = ii.name AND c.type = 'TEXT'");
+  int rc;
+  while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
+    names.emplace(reinterpret_cast<const char*>(sqlite3_column_text(stmt.get(), 0)));
+  }
+  if (rc != SQLITE_DONE) RaiseEngineError(rc, db);
+  return names;
+}
+
+struct Kept {
+  std::string path;
+  bool read_only;
+  std::shared_ptr<EngineConnection> connection;
+};
+
+std::list<Kept>& KeptConnections() {
+  thread_local std::list<Kept> kept;
+  return kept;
+}
+
+}  // namespace
+
+std::chrono::milliseconds BusyTimeout() { return std::chrono::milliseconds(g_busy_timeout_ms.load()); }
+void SetBusyTimeout(std::chrono::milliseconds timeout) { g_busy_timeout_ms = timeout.count(); }
+
+EngineConnection::Identity EngineConnection::Inspect(const std::string& path) {
+  if (path.empty()) Raise(errc::kInvalidPath, "(empty path)", kEngineSource);
+  struct stat st {};
+  if (::stat(path.c_str(), &st) != 0) {
+    const fs::path parent = fs::path(path).parent_path();
+    std::error_code ec;
+    const bool folder_exists = parent.empty() || fs::is_directory(parent, ec);
+    Raise(folder_exists ? errc::kDatabaseNotFound : errc::kInvalidPath, path, kEngineSource);
+  }
+  if (!S_ISREG(st.st_mode)) Raise(errc::kCannotOpen, path, kEngineSource);
+  Identity id;
+  id.device = st.st_dev;
+  id.inode = st.st_ino;
+  id.read_only = (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+  return id;
+}
+
+std::shared_ptr<EngineConnection> EngineConnection::Open(const std::string& path, bool read_only) {
+  const Identity id = Inspect(path);
+  sqlite3* raw = nullptr;
+  const int flags = (id.read_only || read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) |
+                    SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+  const int rc = sqlite3_open_v2(path.c_str(), &raw, flags, nullptr);
+  DbHandle handle(raw);
+  if (rc != SQLITE_OK) RaiseEngineError(rc, raw);
+  std::shared_ptr<EngineConnection> conn(new EngineConnection(std::move(handle), path, id));
+  conn->Configure();
+  return conn;
+}
+
+void EngineConnection::Configure() {
+  sqlite3* db = handle_.get();
+  sqlite3_extended_result_codes(db, 1);
+  sqlite3_busy_timeout(db, static_cast<int>(g_busy_timeout_ms.load()));
+  // Keep the log file on close: a connection that outlives a replaced file
+  // must never delete, by name, the log of the file now at its path.
+  int persist = 1;
+  sqlite3_file_control(db, "main", SQLITE_FCNTL_PERSIST_WAL, &persist);
+  if (QueryInt(db, "PRAGMA application_id") != kApplicationId) {
+    Raise(errc::kUnrecognizedFormat, path_, kEngineSource);
+  }
+  QueryInt(db, "PRAGMA synchronous = NORMAL");
+  // Checkpoints leave the log empty, so after a clean exit the database file
+  // alone holds every change.
+  QueryInt(db, "PRAGMA journal_size_limit = 0");
+  Check(sqlite3_create_function(db, "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
+                                LikeFunction, nullptr, nullptr),
+        db);
+  indexed_ = FindIndexedTextColumns(db);
+}
+
+std::string EngineConnection::Translate(std::string_view sql) const {
+  return TranslateSql(sql, indexed_);
+}
+
+bool EngineConnection::IsCurrent() const {
+  try {
+    return Inspect(path_) == identity_;
+  } catch (const Error&) {
+    return false;
+  }
+}
+
+std::shared_ptr<EngineConnection> AcquireConnection(const std::string& path, bool read_only) {
+  std::list<Kept>& kept = KeptConnections();
+  for (auto it = kept.begin(); it != kept.end(); ++it) {
+    if (it->path != path || it->read_only != read_only) continue;
+    if (it->connection->IsCurrent()) {
+      kept.splice(kept.begin(), kept, it);
+      sqlite3_busy_timeout(it->connection->db(), static_cast<int>(g_busy_timeout_ms.load()));
+      return it->connection;
+    }
+    kept.erase(it);
+    break;
+  }
+  auto conn = EngineConnection::Open(path, read_only);
+  kept.push_front({path, read_only, conn});
+  if (kept.size() > kKeptConnections) kept.pop_back();
+  return conn;
+}
+
+void ExecScript(sqlite3* db, const std::string& sql) {
+  Check(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), db);
+}
+
+}  // namespace zerbal::data

@@ -1,0 +1,80 @@
+// Engine connections: one SQLite connection per database file and thread,
+// set up so that the statements the system builds behave as the original
+// engine would (wildcards of LIKE, case-blind text, typed columns).
+//
+// Opening a database is a per-call affair in the system's design; the
+// connections behind it are kept per thread and reused while the file on
+// disk stays the same one (same device, inode and write permission), so a
+// file replaced on disk is opened afresh.
+
+#ifndef ZERBAL_DATA_ENGINE_H_
+#define ZERBAL_DATA_ENGINE_H_
+
+#include <sqlite3.h>
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "data/jet_sql.h"
+#include "data/sqlite.h"
+
+namespace zerbal::data {
+
+// Marks the files that this system created, so that a foreign file is never
+// taken for one of ours ('zrbl').
+inline constexpr int32_t kApplicationId = 0x7A72626C;
+
+// How long a statement waits for another process's lock before it fails with
+// 3260. The default suits people; tests shorten it.
+std::chrono::milliseconds BusyTimeout();
+void SetBusyTimeout(std::chrono::milliseconds timeout);
+
+class EngineConnection {
+ public:
+  // Checks the path and opens it. Never creates a file: a missing file is
+  // 3024, a missing folder or empty path 3044, a folder or unreadable file
+  // 3051, a file that is not a database of ours 3343. A file without any
+  // write permission is opened read-only, so writes to it fail with 3027.
+  static std::shared_ptr<EngineConnection> Open(const std::string& path, bool read_only);
+
+  sqlite3* db() const { return handle_.get(); }
+  const std::string& path() const { return path_; }
+
+  // The statement in the engine's own SQL (see jet_sql.h).
+  std::string Translate(std::string_view sql) const;
+
+  // Whether this connection still stands for what is at its path.
+  bool IsCurrent() const;
+
+ private:
+  struct Identity {
+    uint64_t device = 0;
+    uint64_t inode = 0;
+    bool read_only = false;  // no write permission on the file
+    bool operator==(const Identity&) const = default;
+  };
+  static Identity Inspect(const std::string& path);
+
+  EngineConnection(DbHandle handle, std::string path, Identity identity)
+      : handle_(std::move(handle)), path_(std::move(path)), identity_(identity) {}
+  void Configure();
+
+  DbHandle handle_;
+  std::string path_;
+  Identity identity_;
+  IndexedTextColumns indexed_;
+};
+
+// The connection for `path` on this thread: a kept one when it is still
+// current, a new one otherwise.
+std::shared_ptr<EngineConnection> AcquireConnection(const std::string& path, bool read_only);
+
+// Runs several statements of trusted SQL (the schema scripts); errors are
+// raised as numbered errors.
+void ExecScript(sqlite3* db, const std::string& sql);
+
+}  // namespace zerbal::data
+
+#endif  // ZERBAL_DATA_ENGINE_H_

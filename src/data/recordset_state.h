@@ -1,0 +1,40 @@
+// What a Recordset handle shares: the rows of its query and its position.
+
+#ifndef ZERBAL_DATA_RECORDSET_STATE_H_
+#define ZERBAL_DATA_RECORDSET_STATE_H_
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "zerbal/recordset.h"
+#include "zerbal/variant.h"
+
+namespace zerbal::data {
+
+struct RecordsetState {
+  std::vector<std::string> names;
+  std::vector<Variant> values;  // row after row
+  int32_t rows = 0;
+  int32_t position = 0;  // current row; -1 before the first, `rows` past the last
+  bool open = true;
+
+  void Close() {
+    open = false;
+    values.clear();
+    values.shrink_to_fit();
+  }
+};
+
+// The door between the database, which makes recordsets, and the handle.
+class RecordsetStateAccess {
+ public:
+  static Recordset Make(std::shared_ptr<RecordsetState> state) {
+    return Recordset(std::move(state));
+  }
+  static const std::shared_ptr<RecordsetState>& State(const Recordset& rs) { return rs.state_; }
+};
+
+}  // namespace zerbal::data
+
+#endif  // ZERBAL_DATA_RECORDSET_STATE_H_

@@ -1,0 +1,68 @@
+#include "records/presentador/t_presentador.h"
+
+#include "base/convert.h"
+#include "zerbal/conexion_dao.h"
+
+namespace zerbal::records {
+namespace {
+
+const PersonaTable kTable = {
+    "TPresentador",
+    {"codpres", "dni_cif", "nombre", "via", "domicilio", "numero", "letra", "escalera", "piso",
+     "mano", "cod", "codpostal", "municipio", "prefijo", "telefono", "nombrep", "prefijop",
+     "telefonop"},
+    "INSERT INTO TPresentador (dni_cif,nombre,via,domicilio,numero,letra,escalera, "
+    "piso,mano,cod,codpostal,municipio,prefijo,telefono,nombrep,prefijop,telefonop "
+    ") VALUES ( ",
+};
+
+// The first column of the first row as a 32-bit number; 0 for no row or Null.
+int32_t FirstNumber(const std::string& sql) {
+  Recordset rs = Conexion().openRecordset(sql);
+  int32_t value = 0;
+  if (!rs.Eof()) {
+    const Variant first = rs.Fields(0).Value();
+    if (!first.IsNull()) value = CLng(first);
+  }
+  rs.Close();
+  return value;
+}
+
+}  // namespace
+
+cTPresentador::cTPresentador() : PersonaRow(kTable) {}
+
+bool cTPresentador::Insertar() {
+  Conexion().execute(InsertSql());
+  return true;
+}
+
+bool cTPresentador::Borrar() {
+  Conexion().execute(DeleteSql());
+  return true;
+}
+
+bool cTPresentador::Modificar() {
+  Conexion().execute(UpdateSql());
+  return true;
+}
+
+bool cTPresentador::Seleccionar() {
+  Recordset rs = Conexion().openRecordset("SELECT * FROM TPresentador");
+  if (rs.Eof()) return false;
+  Load(rs, true);
+  rs.Close();
+  return true;
+}
+
+int32_t cTPresentador::ExisteNif() {
+  const std::string nif = CStr(Get(kDniCif));
+  if (nif.empty()) return 0;
+  return FirstNumber("Select codpres From TPresentador Where dni_cif='" + nif + "'");
+}
+
+int32_t cTPresentador::MaxPresentador() {
+  return FirstNumber("SELECT MAX(codpres) FROM TPresentador ");
+}
+
+}  // namespace zerbal::records

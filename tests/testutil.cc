@@ -1,0 +1,66 @@
+#include "testutil.h"
+
+#include <stdlib.h>
+
+#include "data/database.h"
+#include "zerbal/databases.h"
+
+namespace zerbal::test {
+
+TempDir::TempDir() {
+  std::string pattern = (std::filesystem::temp_directory_path() / "zerbal-test-XXXXXX").string();
+  if (::mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("mkdtemp failed");
+  path_ = pattern;
+}
+
+TempDir::~TempDir() {
+  std::error_code ignored;
+  std::filesystem::permissions(path_, std::filesystem::perms::owner_all,
+                               std::filesystem::perm_options::add, ignored);
+  std::filesystem::remove_all(path_, ignored);
+}
+
+DatabaseTest::DatabaseTest() {
+  const DatabasePaths paths = CreateDatabases(dir_.path());
+  mod_ = paths.data.string();
+  lec_ = paths.lookup.string();
+}
+
+std::optional<Error> ErrorOf(const std::function<void()>& body) {
+  try {
+    body();
+  } catch (const Error& e) {
+    return e;
+  }
+  return std::nullopt;
+}
+
+::testing::AssertionResult Raises(const std::function<void()>& body, int32_t number,
+                                  const char* text) {
+  const std::optional<Error> error = ErrorOf(body);
+  if (!error) return ::testing::AssertionFailure() << "no error from: " << text;
+  if (error->Number() != number) {
+    return ::testing::AssertionFailure() << text << " raised " << error->Number() << " ("
+                                         << error->Description() << "), not " << number;
+  }
+  return ::testing::AssertionSuccess();
+}
+
+std::vector<std::vector<Variant>> Rows(const std::string& path, const std::string& sql) {
+  data::Workspace ws("test", "admin", "", 2);
+  data::Database db = ws.OpenDatabase(path, false, false, "");
+  Recordset rs = db.OpenRecordset(sql);
+  std::vector<std::vector<Variant>> rows;
+  for (; !rs.Eof(); rs.MoveNext()) {
+    std::vector<Variant>& row = rows.emplace_back();
+    for (int32_t c = 0; c < rs.FieldCount(); ++c) row.push_back(rs.Fields(c).Value());
+  }
+  return rows;
+}
+
+void Exec(const std::string& path, const std::string& sql) {
+  data::Workspace ws("test", "admin", "", 2);
+  ws.OpenDatabase(path, false, false, "").Execute(sql);
+}
+
+}  // namespace zerbal::test

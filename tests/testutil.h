@@ -1,0 +1,66 @@
+// What every test needs: a temporary folder, a pair of databases made by the
+// same code as `zerbal init`, a way to look at rows, and assertions on
+// raised errors.
+
+#ifndef ZERBAL_TESTS_TESTUTIL_H_
+#define ZERBAL_TESTS_TESTUTIL_H_
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "zerbal/error.h"
+#include "zerbal/variant.h"
+
+namespace zerbal::test {
+
+// A new empty folder, removed with everything in it at the end of the test.
+class TempDir {
+ public:
+  TempDir();
+  ~TempDir();
+  TempDir(const TempDir&) = delete;
+  TempDir& operator=(const TempDir&) = delete;
+  const std::filesystem::path& path() const { return path_; }
+  std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+// A fixture with both databases freshly created in a temporary folder.
+class DatabaseTest : public ::testing::Test {
+ protected:
+  DatabaseTest();
+  TempDir dir_;
+  std::string mod_;  // the data database
+  std::string lec_;  // the lookup database
+};
+
+// The error that `body` raises, if any.
+std::optional<Error> ErrorOf(const std::function<void()>& body);
+
+// Success when `body` raises error `number`; the failure says what it raised.
+::testing::AssertionResult Raises(const std::function<void()>& body, int32_t number,
+                                  const char* text);
+
+// Every row of `sql` on the database at `path`, each column as its Variant,
+// read through a database opened apart from the shared connection.
+std::vector<std::vector<Variant>> Rows(const std::string& path, const std::string& sql);
+
+// Runs one action statement on the database at `path`, apart from the
+// shared connection.
+void Exec(const std::string& path, const std::string& sql);
+
+}  // namespace zerbal::test
+
+// Asserts that `statement` raises error `number`; more context may be
+// streamed in with <<.
+#define EXPECT_RAISES(statement, number) \
+  EXPECT_TRUE(::zerbal::test::Raises([&] { statement; }, number, #statement))
+
+#endif  // ZERBAL_TESTS_TESTUTIL_H_
