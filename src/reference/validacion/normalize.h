@@ -10,7 +10,9 @@
 
 namespace zerbal::validacion {
 
-inline char ToUpperAscii(char c) { return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c; }
+inline char ToUpperAscii(char c) {
+  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
 // `text` without leading and trailing ASCII whitespace.
 std::string_view TrimSpace(std::string_view text);

@@ -33,8 +33,8 @@ bool IsForeignerNumber(std::string_view d) {
 }
 
 bool IsOtherNumber(std::string_view d) {
-  const int k = (11 - WeightedSum(d, {4, 3, 2, 7, 6, 5, 4, 3, 2}) % 11) % 11;
-  return k != 10 && Digit(d[9]) == k;
+  // A value of 10 matches no digit.
+  return Digit(d[9]) == (11 - WeightedSum(d, {4, 3, 2, 7, 6, 5, 4, 3, 2}) % 11) % 11;
 }
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace zerbal::validacion {
 
 bool CheckCY(std::string_view body) {
   static constexpr int kOddPlaceValue[] = {1, 0, 5, 7, 9, 13, 15, 17, 19, 21};
-  if (body.size() != 9 || !AllDigits(body.substr(0, 8)) || !IsUpperLetter(body[8])) return false;
+  if (body.size() != 9 || !AllDigits(body.substr(0, 8))) return false;
   if (body.starts_with("12")) return false;
   int sum = 0;
   for (size_t i = 0; i < 8; ++i) {

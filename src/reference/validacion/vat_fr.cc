@@ -19,7 +19,9 @@ bool KeyMatches(char c1, char c2, uint64_t siren) {
   const int v1 = KeyValue(c1);
   const int v2 = KeyValue(c2);
   if (v1 < 0 || v2 < 0) return false;
-  if (IsDigit(c1) && IsDigit(c2)) return static_cast<uint64_t>(v1 * 10 + v2) == (siren * 100 + 12) % 97;
+  if (IsDigit(c1) && IsDigit(c2)) {
+    return static_cast<uint64_t>(v1 * 10 + v2) == (siren * 100 + 12) % 97;
+  }
   const int c = IsDigit(c1) ? 24 * v1 + v2 - 10 : 34 * v1 + v2 - 100;
   return static_cast<int>((siren + 1 + c / 11) % 11) == c % 11;
 }

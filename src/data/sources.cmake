@@ -1,0 +1,17 @@
+list(APPEND ZERBAL_SOURCES
+  data/buffers.cc
+  data/busy_pointer.cc
+  data/conexion_dao.cc
+  data/database.cc
+  data/databases.cc
+  data/engine.cc
+  data/jet_like.cc
+  data/jet_sql.cc
+  data/recordset.cc
+  data/sqlite.cc
+)
+# The SQL that creates and fills the databases, embedded in the library.
+list(APPEND ZERBAL_RESOURCES
+  data_schema.sql=${PROJECT_SOURCE_DIR}/resources/data_schema.sql
+  lookup_schema.sql=${PROJECT_SOURCE_DIR}/resources/lookup_schema.sql
+)

@@ -1,0 +1,2 @@
+list(APPEND ZERBAL_SOURCES
+)

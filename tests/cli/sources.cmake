@@ -1,0 +1,3 @@
+list(APPEND ZERBAL_TEST_SOURCES
+  cli/cli_test.cc
+)

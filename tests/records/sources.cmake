@@ -1,0 +1,3 @@
+list(APPEND ZERBAL_TEST_SOURCES
+  records/presentador_test.cc
+)
