@@ -141,23 +141,30 @@ std::string DebugString(const Variant& value) {
     default: return CStr(value);
   }
   const Array& a = value.AsArray();
-  std::string out = "(" + std::to_string(a.LBound(1)) + " to " + std::to_string(a.UBound(1));
+  auto bounds = [&](int dimension) {
+    return std::to_string(a.LBound(dimension)).append(" to ").append(
+        std::to_string(a.UBound(dimension)));
+  };
+  std::string out = "(";
+  out.append(bounds(1));
+  if (a.Dimensions() == 2) out.append(", ").append(bounds(2));
+  out.append(") {");
   if (a.Dimensions() == 2) {
-    out += ", " + std::to_string(a.LBound(2)) + " to " + std::to_string(a.UBound(2)) + ") {";
     for (int32_t j = a.LBound(2); j <= a.UBound(2); ++j) {
-      out += j == a.LBound(2) ? "[" : "; [";
+      out.append(j == a.LBound(2) ? "[" : "; [");
       for (int32_t i = a.LBound(1); i <= a.UBound(1); ++i) {
-        out += (i == a.LBound(1) ? "" : ", ") + DebugString(a(i, j));
+        if (i != a.LBound(1)) out.append(", ");
+        out.append(DebugString(a(i, j)));
       }
-      out += "]";
+      out.append("]");
     }
-    return out + "}";
+  } else {
+    for (int32_t i = a.LBound(1); i <= a.UBound(1); ++i) {
+      if (i != a.LBound(1)) out.append(", ");
+      out.append(DebugString(a(i)));
+    }
   }
-  out += ") {";
-  for (int32_t i = a.LBound(1); i <= a.UBound(1); ++i) {
-    out += (i == a.LBound(1) ? "" : ", ") + DebugString(a(i));
-  }
-  return out + "}";
+  return out.append("}");
 }
 
 }  // namespace zerbal

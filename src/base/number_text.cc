@@ -49,15 +49,15 @@ std::string Render(const Decimal& d) {
   const int n = static_cast<int>(d.digits.size());
   if (d.point > 15 || d.point < -4) {  // the runtime's switch to scientific form
     std::string out = d.digits.substr(0, 1);
-    if (n > 1) out += "." + d.digits.substr(1);
+    if (n > 1) out.append(".").append(d.digits, 1);
     const int e = d.point - 1;
     out += e < 0 ? "E-" : "E+";
     const std::string exp = std::to_string(std::abs(e));
     return out + (exp.size() < 2 ? "0" : "") + exp;
   }
-  if (d.point <= 0) return "0." + std::string(-d.point, '0') + d.digits;
-  if (d.point >= n) return d.digits + std::string(d.point - n, '0');
-  return d.digits.substr(0, d.point) + "." + d.digits.substr(d.point);
+  if (d.point <= 0) return std::string("0.").append(-d.point, '0').append(d.digits);
+  if (d.point >= n) return std::string(d.digits).append(d.point - n, '0');
+  return d.digits.substr(0, d.point).append(".").append(d.digits, d.point);
 }
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
@@ -160,6 +160,7 @@ void RoundedDigits(double magnitude, int decimals, std::string* whole, std::stri
 }
 
 std::string FormatNumber(double value, std::string_view mask) {
+  if (mask.empty()) return NumberText(value);  // no mask: the general number form
   const size_t point = mask.find('.');
   const std::string_view int_mask = mask.substr(0, point);
   const std::string_view frac_mask =

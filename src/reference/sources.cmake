@@ -1,2 +1,4 @@
 list(APPEND ZERBAL_SOURCES
+  reference/country_codes.cc
+  reference/general.cc
 )

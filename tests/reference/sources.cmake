@@ -1,2 +1,3 @@
 list(APPEND ZERBAL_TEST_SOURCES
+  reference/general_test.cc
 )
