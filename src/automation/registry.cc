@@ -1,0 +1,51 @@
+#include <string>
+
+#include "automation/classes.h"
+#include "base/convert.h"
+#include "base/raise.h"
+#include "zerbal/automation.h"
+
+namespace zerbal {
+namespace {
+
+struct ClassEntry {
+  std::string_view progid;
+  std::unique_ptr<AutomationObject> (*make)();
+};
+
+// Every class a client can create by name.
+constexpr ClassEntry kClasses[] = {
+    {"Brevandol.cMiscelaneos", automation::NewMiscelaneos},
+};
+
+}  // namespace
+
+std::unique_ptr<AutomationObject> CreateObject(std::string_view progid) {
+  const std::string wanted = UCase(progid);
+  for (const ClassEntry& entry : kClasses) {
+    if (UCase(entry.progid) == wanted) return entry.make();
+  }
+  Raise(errc::kCannotCreateObject, progid);
+}
+
+std::vector<std::string> RegisteredClasses() {
+  std::vector<std::string> names;
+  for (const ClassEntry& entry : kClasses) names.emplace_back(entry.progid);
+  return names;
+}
+
+Variant AutomationObject::Get(std::string_view name) {
+  std::vector<Variant> none;
+  return Invoke(name, Invocation::kPropertyGet, none);
+}
+
+void AutomationObject::Let(std::string_view name, Variant value) {
+  std::vector<Variant> args{std::move(value)};
+  Invoke(name, Invocation::kPropertyLet, args);
+}
+
+Variant AutomationObject::Call(std::string_view name, std::vector<Variant>& args) {
+  return Invoke(name, Invocation::kMethod, args);
+}
+
+}  // namespace zerbal

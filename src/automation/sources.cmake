@@ -1,0 +1,4 @@
+list(APPEND ZERBAL_SOURCES
+  automation/binding.cc
+  automation/registry.cc
+)

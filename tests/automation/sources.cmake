@@ -1,0 +1,3 @@
+list(APPEND ZERBAL_TEST_SOURCES
+  automation/registry_test.cc
+)
