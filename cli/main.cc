@@ -19,6 +19,8 @@ constexpr const char* kUsage =
     "  demo [DIR]           run a short demonstration in DIR (default: a new\n"
     "                       temporary folder)\n"
     "  nif [--vat] [ID...]  check Spanish tax identifiers (or VAT numbers)\n"
+    "  automation           drive the library's classes with JSON lines on\n"
+    "                       standard input and output\n"
     "\n"
     "Run 'zerbal COMMAND --help' for the options of a command.\n";
 
@@ -38,6 +40,7 @@ int main(int argc, char** argv) {
   }
   if (command == "init") return RunInit(args, std::cout, std::cerr);
   if (command == "demo") return RunDemo(args, std::cout, std::cerr);
+  if (command == "automation") return RunAutomation(args, std::cin, std::cout, std::cerr);
   if (command == "nif") return RunNif(args, std::cin, std::cout, std::cerr);
   std::cerr << "zerbal: unknown command '" << command << "'\n\n" << kUsage;
   return 2;

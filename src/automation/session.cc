@@ -1,0 +1,117 @@
+#include "automation/session.h"
+
+#include "automation/json_variant.h"
+#include "base/raise.h"
+
+namespace zerbal::automation {
+namespace {
+
+using nlohmann::json;
+
+constexpr std::string_view kBridgeSource = "zerbal.automation";
+
+[[noreturn]] void BadRequest(const std::string& what) {
+  Raise(errc::kInvalidProcedureCall, "bad request: " + what, kBridgeSource);
+}
+
+const json& Field(const json& request, const char* name) {
+  const auto it = request.find(name);
+  if (it == request.end()) BadRequest(std::string("\"") + name + "\" is missing");
+  return *it;
+}
+
+std::string Text(const json& request, const char* name) {
+  const json& value = Field(request, name);
+  if (!value.is_string()) BadRequest(std::string("\"") + name + "\" must be a string");
+  return value.get<std::string>();
+}
+
+std::vector<Variant> Arguments(const json& request) {
+  std::vector<Variant> args;
+  const auto it = request.find("args");
+  if (it == request.end()) return args;
+  if (!it->is_array()) BadRequest("\"args\" must be a list");
+  for (const json& arg : *it) args.push_back(FromJson(arg));
+  return args;
+}
+
+json Describe(const AutomationObject& object) {
+  static constexpr const char* kKinds[] = {"method", "get", "let"};
+  json members = json::array();
+  for (const MemberInfo& m : object.Members()) {
+    members.push_back({{"name", m.name},
+                       {"kind", kKinds[static_cast<int>(m.kind)]},
+                       {"required", m.required},
+                       {"optional", m.optional}});
+  }
+  return members;
+}
+
+json ErrorAnswer(const json& id, const Error& error) {
+  return {{"id", id},
+          {"ok", false},
+          {"error",
+           {{"number", error.Number()},
+            {"source", error.Source()},
+            {"description", error.Description()}}}};
+}
+
+}  // namespace
+
+AutomationObject& Session::Object(const json& request) {
+  const json& handle = Field(request, "handle");
+  if (!handle.is_number_integer()) BadRequest("\"handle\" must be a whole number");
+  const auto it = objects_.find(handle.get<int64_t>());
+  if (it == objects_.end()) Raise(errc::kObjectNotSet, "no object has handle " + handle.dump());
+  return *it->second;
+}
+
+json Session::Handle(const json& request) {
+  const std::string op = Text(request, "op");
+  json answer = {{"ok", true}};
+  if (op == "create") {
+    auto object = CreateObject(Text(request, "class"));
+    answer["handle"] = next_handle_;
+    objects_.emplace(next_handle_++, std::move(object));
+  } else if (op == "let") {
+    Object(request).Let(Text(request, "name"), FromJson(Field(request, "value")));
+  } else if (op == "get" || op == "call") {
+    std::vector<Variant> args = Arguments(request);
+    const Invocation kind = op == "get" ? Invocation::kPropertyGet : Invocation::kMethod;
+    answer["result"] = ToJson(Object(request).Invoke(Text(request, "name"), kind, args));
+    json final_args = json::array();
+    for (const Variant& arg : args) final_args.push_back(ToJson(arg));
+    answer["args"] = std::move(final_args);
+  } else if (op == "release") {
+    Object(request);
+    objects_.erase(Field(request, "handle").get<int64_t>());
+  } else if (op == "classes") {
+    answer["result"] = RegisteredClasses();
+  } else if (op == "members") {
+    answer["result"] = Describe(Object(request));
+  } else {
+    BadRequest("unknown op \"" + op + "\"");
+  }
+  return answer;
+}
+
+std::string Session::Answer(std::string_view line) {
+  json id;  // null until the request names one
+  json answer;
+  try {
+    const json request = json::parse(line);
+    if (!request.is_object()) BadRequest("a request is a JSON object");
+    if (const auto it = request.find("id"); it != request.end()) id = *it;
+    answer = Handle(request);
+    answer["id"] = id;
+  } catch (const json::exception& e) {
+    answer = ErrorAnswer(id, Error(errc::kInvalidProcedureCall, std::string(kBridgeSource),
+                                   std::string("bad request: ") + e.what()));
+  } catch (...) {
+    answer = ErrorAnswer(id, CurrentError());
+  }
+  // Text that is not valid UTF-8 cannot travel in JSON: such bytes arrive as U+FFFD.
+  return answer.dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+}  // namespace zerbal::automation

@@ -1,0 +1,122 @@
+#include "automation/session.h"
+
+#include "automation/json_variant.h"
+#include "testutil.h"
+
+namespace zerbal::automation {
+namespace {
+
+using nlohmann::json;
+
+Variant RoundTrip(const Variant& value) {
+  return FromJson(json::parse(ToJson(value).dump()));
+}
+
+TEST(JsonVariantTest, EveryKindSurvivesTheTrip) {
+  Variant list(Array(-2, 1));
+  list(-2) = "ñandú \"quoted\"\nline";
+  list(-1) = int16_t{-32768};
+  list(0) = uint8_t{255};
+  list(1) = Variant::Null();
+  Variant table(Array(1, 3, 5, 6));
+  for (int32_t i = 1; i <= 3; ++i) table(i, 6) = i * 1.5;
+  table(2, 5) = list;  // nested
+  const Variant values[] = {Variant(),   Variant::Null(), int16_t{7},  INT32_MIN, uint8_t{0},
+                            true,        false,           -1234.0,     0.1,       1e300,
+                            "",          "´'",            list,        table};
+  for (const Variant& value : values) {
+    const Variant back = RoundTrip(value);
+    EXPECT_EQ(back, value) << DebugString(value) << " came back as " << DebugString(back);
+  }
+  // The first subscript varies fastest: (1,5) (2,5) (3,5) (1,6) ...
+  EXPECT_EQ(ToJson(table)["elements"][1], ToJson(list));
+  EXPECT_EQ(ToJson(table)["elements"][3], ToJson(Variant(1.5)));
+}
+
+TEST(JsonVariantTest, PlainValuesAndBadVariants) {
+  EXPECT_EQ(FromJson(json::parse("\"x\"")), Variant("x"));
+  EXPECT_EQ(FromJson(json::parse("12")), Variant(12));
+  EXPECT_EQ(FromJson(json::parse("3000000000")), Variant(3e9));
+  EXPECT_EQ(FromJson(json::parse("2.5")), Variant(2.5));
+  EXPECT_EQ(FromJson(json::parse("true")), Variant(true));
+  EXPECT_TRUE(FromJson(json::parse("null")).IsNull());
+  const struct {
+    const char* text;
+    int32_t error;
+  } rows[] = {
+      {R"({"type":"Long","value":"x"})", 5},
+      {R"({"type":"Long","value":3000000000})", 6},
+      {R"({"type":"Integer","value":40000})", 6},
+      {R"({"type":"Byte","value":-1})", 6},
+      {R"({"type":"Nope"})", 5},
+      {R"({"type":"String"})", 5},
+      {R"({"type":"Array","bounds":[[0,1]],"elements":[1]})", 5},
+      {R"({"type":"Array","bounds":[[0,1],[0,1],[0,1]],"elements":[]})", 5},
+      {R"({"type":"Array","bounds":[[0,1000000000]],"elements":[]})", 7},
+      {R"([1,2])", 5},
+  };
+  for (const auto& row : rows) {
+    EXPECT_RAISES(FromJson(json::parse(row.text)), row.error) << row.text;
+  }
+}
+
+class SessionTest : public ::testing::Test {
+ protected:
+  json Ask(const std::string& request) {
+    const std::string line = session_.Answer(request);
+    EXPECT_EQ(line.find('\n'), std::string::npos);
+    return json::parse(line);
+  }
+  static int32_t ErrorNumber(const json& answer) {
+    return answer.at("ok") ? 0 : answer.at("error").at("number").get<int32_t>();
+  }
+  Session session_;
+};
+
+TEST_F(SessionTest, CreateCallAndRelease) {
+  const json created = Ask(R"({"id": "a", "op": "create", "class": "brevandol.cmiscelaneos"})");
+  EXPECT_EQ(created["id"], "a");
+  const int64_t handle = created.at("handle").get<int64_t>();
+  const json answer = Ask(R"({"id": 2, "op": "call", "handle": )" + std::to_string(handle) +
+                          R"(, "name": "ValidaNifCif", "args": ["54362315", true]})");
+  EXPECT_EQ(answer["result"], ToJson(Variant(true)));
+  EXPECT_EQ(answer["args"][0], ToJson(Variant("54362315")));
+  EXPECT_EQ(answer["id"], 2);
+  EXPECT_TRUE(Ask(R"({"op": "members", "handle": 1})")["result"].size() == 2);
+  EXPECT_TRUE(Ask(R"({"op": "release", "handle": 1})")["ok"]);
+  EXPECT_EQ(ErrorNumber(Ask(R"({"op": "release", "handle": 1})")), 91);
+  EXPECT_EQ(Ask(R"({"op": "create", "class": "Brevandol.cMiscelaneos"})")["handle"], 2)
+      << "handles are not reused";
+}
+
+TEST_F(SessionTest, ErrorsAreAnsweredAndTheSessionGoesOn) {
+  Ask(R"({"op": "create", "class": "Brevandol.cMiscelaneos"})");
+  const struct {
+    const char* request;
+    int32_t error;
+  } rows[] = {
+      {"not json", 5},
+      {"[1]", 5},
+      {R"({"id": 9})", 5},
+      {R"({"op": "jump"})", 5},
+      {R"({"op": "create", "class": "zerbal.cNada"})", 429},
+      {R"({"op": "get", "handle": 77, "name": "x"})", 91},
+      {R"({"op": "get", "handle": "1", "name": "x"})", 5},
+      {R"({"op": "call", "handle": 1, "name": "Volar"})", 438},
+      {R"({"op": "call", "handle": 1, "name": "ValidaNifCif"})", 450},
+      {R"({"op": "call", "handle": 1, "name": "ValidaNifCif", "args": [null]})", 13},
+      {R"({"op": "call", "handle": 1, "name": "ValidaNifCif", "args": "x"})", 5},
+      {R"({"op": "let", "handle": 1, "name": "ValidaNifCif"})", 5},
+  };
+  for (const auto& row : rows) {
+    const json answer = Ask(row.request);
+    EXPECT_EQ(ErrorNumber(answer), row.error) << row.request << " -> " << answer.dump();
+  }
+  const json error = Ask(R"({"id": [1], "op": "create", "class": "x"})");
+  EXPECT_EQ(error["id"], json::array({1}));
+  EXPECT_FALSE(error["error"]["source"].get<std::string>().empty());
+  EXPECT_TRUE(Ask(R"({"op": "classes"})")["ok"]) << "still serving";
+}
+
+}  // namespace
+}  // namespace zerbal::automation
