@@ -7,6 +7,7 @@ list(APPEND ZERBAL_SOURCES
   data/engine.cc
   data/jet_like.cc
   data/jet_sql.cc
+  data/queries.cc
   data/recordset.cc
   data/sqlite.cc
 )

@@ -1,6 +1,7 @@
 #include "records/presentador/t_presentador.h"
 
 #include "base/convert.h"
+#include "data/queries.h"
 #include "zerbal/conexion_dao.h"
 
 namespace zerbal::records {
@@ -15,18 +16,6 @@ const PersonaTable kTable = {
     "piso,mano,cod,codpostal,municipio,prefijo,telefono,nombrep,prefijop,telefonop "
     ") VALUES ( ",
 };
-
-// The first column of the first row as a 32-bit number; 0 for no row or Null.
-int32_t FirstNumber(const std::string& sql) {
-  Recordset rs = Conexion().openRecordset(sql);
-  int32_t value = 0;
-  if (!rs.Eof()) {
-    const Variant first = rs.Fields(0).Value();
-    if (!first.IsNull()) value = CLng(first);
-  }
-  rs.Close();
-  return value;
-}
 
 }  // namespace
 
@@ -58,11 +47,11 @@ bool cTPresentador::Seleccionar() {
 int32_t cTPresentador::ExisteNif() {
   const std::string nif = CStr(Get(kDniCif));
   if (nif.empty()) return 0;
-  return FirstNumber("Select codpres From TPresentador Where dni_cif='" + nif + "'");
+  return QueryNumber("Select codpres From TPresentador Where dni_cif='" + nif + "'");
 }
 
 int32_t cTPresentador::MaxPresentador() {
-  return FirstNumber("SELECT MAX(codpres) FROM TPresentador ");
+  return QueryNumber("SELECT MAX(codpres) FROM TPresentador ");
 }
 
 }  // namespace zerbal::records
