@@ -1,0 +1,89 @@
+#include "fileformat/layout.h"
+
+#include <cmath>
+#include <string>
+
+#include "base/convert.h"
+#include "base/raise.h"
+#include "base/text.h"
+#include "reference/general.h"
+
+namespace zerbal::fileformat {
+namespace {
+
+constexpr double kPesetasPorEuro = 166.386;
+
+const Variant& Buffer(const Variant* buffer) {
+  static const Variant kNone;
+  return buffer != nullptr ? *buffer : kNone;
+}
+
+const Variant& ValueOf(const Source& source, const RecordInput& input) {
+  switch (source.from) {
+    case From::kPersona: return Buffer(input.persona)(source.element);
+    case From::kRecord: return Buffer(input.record)(source.element);
+    case From::kValue: return input.values[source.element];
+    case From::kNothing:
+    case From::kLiteral: break;
+  }
+  return Buffer(nullptr);
+}
+
+// Round(amount / 166.386, 2) * 100 for pesetas: whole euro cents, halves to
+// the even neighbour (the default rounding of nearbyint).
+double Converted(const Variant& value, std::string_view moneda) {
+  const double amount = CDbl(value);
+  if (moneda != "P") return amount;
+  return std::nearbyint(amount / kPesetasPorEuro * 100);
+}
+
+std::string SignedAmount(const Variant& value, int16_t width) {
+  const double amount = General::BC(value);
+  std::string sign = General::Signo(amount, 0);
+  return General::FormatoTexto(sign, 1, " ") + General::FormatoImporte(amount, width - 1, "0");
+}
+
+std::string Text(std::string text, int16_t width, std::string_view fill) {
+  return General::FormatoTexto(text, width, fill);
+}
+
+}  // namespace
+
+std::string WriteField(const Field& field, const RecordInput& input) {
+  if (field.kind == Kind::kConstant) return std::string(field.source.literal);
+  if (field.kind == Kind::kBlanks) return std::string(field.width, ' ');
+  const Variant& value = ValueOf(field.source, input);
+  const int16_t width = field.width;
+  switch (field.kind) {
+    case Kind::kText: return Text(CStr(value), width, " ");
+    case Kind::kTextZeroFill: return Text(Trim(CStr(value)), width, "0");
+    case Kind::kNumber: return General::FormatoNumero(CDbl(value), width, "0");
+    case Kind::kNumberBC: return General::FormatoNumero(General::BC(value), width, "0");
+    case Kind::kMask: return Format(value, RepeatChar("0", width));
+    case Kind::kAmount: return General::FormatoImporte(General::BC(value), width, "0");
+    case Kind::kSignedAmount: return SignedAmount(value, width);
+    case Kind::kConverted:
+      return General::FormatoNumero(Converted(value, input.moneda), width, "0");
+    case Kind::kKey: return General::ConvertirClave(CStr(value));
+    case Kind::kConstant:
+    case Kind::kBlanks: break;
+  }
+  return {};
+}
+
+std::string WriteRecord(const Layout& layout, const RecordInput& input) {
+  if (const int faulty = FaultyField(layout); faulty >= 0) {
+    const bool at_end = static_cast<size_t>(faulty) == layout.fields.size();
+    Raise(errc::kInternalError,
+          std::string(layout.name) +
+              (at_end ? " does not end at its length"
+                      : ": field " + std::to_string(faulty + 1) + " (" +
+                            std::string(layout.fields[faulty].name) + ") is out of place"));
+  }
+  std::string record;
+  record.reserve(static_cast<size_t>(layout.length) + 8);
+  for (const Field& field : layout.fields) record += WriteField(field, input);
+  return record;
+}
+
+}  // namespace zerbal::fileformat

@@ -1,0 +1,3 @@
+list(APPEND ZERBAL_SOURCES
+  fileformat/layout.cc
+)

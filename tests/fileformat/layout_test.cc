@@ -1,0 +1,108 @@
+#include "fileformat/layout.h"
+
+#include <array>
+
+#include "fixtures.h"
+#include "testutil.h"
+
+namespace zerbal::fileformat {
+namespace {
+
+// One field read from element 0 of the record buffer.
+std::string Written(const Field& field, const Variant& value, std::string_view moneda = "E") {
+  const Variant record = test::Buffer({value});
+  RecordInput input;
+  input.record = &record;
+  input.moneda = moneda;
+  return WriteField(field, input);
+}
+
+TEST(LayoutTest, EachKindFormatsAsItsTableSays) {
+  const struct {
+    const char* rule;
+    Field field;
+    Variant value;
+    const char* moneda;
+    std::string written;
+  } rows[] = {
+      {"text padded", T("t", 1, 5, Declarado(0)), "abc", "E", "abc  "},
+      {"text cut", T("t", 1, 5, Declarado(0)), "abcdefg", "E", "abcde"},
+      {"ñ is one character", T("t", 1, 6, Declarado(0)), "Ñandú", "E", "Ñandú "},
+      {"zero fill, empty", T0("t", 1, 2, Declarado(0)), "", "E", "00"},
+      {"zero fill, one letter", T0("t", 1, 2, Declarado(0)), "F", "E", "F0"},
+      {"zero fill, trimmed", T0("t", 1, 2, Declarado(0)), " ES ", "E", "ES"},
+      {"number from text", N("n", 1, 2, Declarado(0)), "7", "E", "07"},
+      {"number from Long", N("n", 1, 4, Declarado(0)), 2014, "E", "2014"},
+      {"too many digits in full", N("n", 1, 2, Declarado(0)), "123", "E", "123"},
+      {"negative gets a minus", N("n", 1, 3, Declarado(0)), "-5", "E", "-005"},
+      {"BC number", NBC("n", 1, 7, Declarado(0)), "943123", "E", "0943123"},
+      {"BC number, blanks inside", NBC("n", 1, 7, Declarado(0)), "943 12 34", "E", "0000000"},
+      {"BC country code", NBC("n", 1, 3, Declarado(0)), "4", "E", "004"},
+      {"mask of a number", Mask("m", 1, 2, Declarado(0)), "5", "E", "05"},
+      {"mask of empty is empty", Mask("m", 1, 2, Declarado(0)), "", "E", ""},
+      {"mask of a word unchanged", Mask("m", 1, 2, Declarado(0)), "ab", "E", "ab"},
+      {"amount is absolute", A("a", 1, 4, Declarado(0)), "-2013", "E", "2013"},
+      {"amount not digits", A("a", 1, 4, Declarado(0)), "2013x", "E", "0000"},
+      {"signed negative", SA("s", 1, 16, Declarado(0)), "-1234", "E", "N000000000001234"},
+      {"signed positive", SA("s", 1, 16, Declarado(0)), "1234", "E", " 000000000001234"},
+      {"signed with comma", SA("s", 1, 16, Declarado(0)), "12,50", "E", " 000000000000000"},
+      {"signed empty", SA("s", 1, 16, Declarado(0)), "", "E", " 000000000000000"},
+      {"pesetas to cents", Pts("p", 1, 15, Declarado(0)), "1000", "P", "000000000000601"},
+      {"euros unchanged", Pts("p", 1, 15, Declarado(0)), "1000", "E", "000000000001000"},
+      {"pesetas rounded up", Pts("p", 1, 15, Declarado(0)), "500", "P", "000000000000301"},
+      {"pesetas rounded down", Pts("p", 1, 15, Declarado(0)), "100", "P", "000000000000060"},
+      {"negative pesetas", Pts("p", 1, 15, Declarado(0)), "-1000", "P", "-000000000000601"},
+      {"key G", Key("k", 1, 1, Declarado(0)), "G", "E", "A"},
+      {"key f", Key("k", 1, 1, Declarado(0)), "f", "E", "B"},
+      {"key c keeps its case", Key("k", 1, 1, Declarado(0)), "c", "E", "c"},
+      {"unknown key is nothing", Key("k", 1, 1, Declarado(0)), "H", "E", ""},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(Written(row.field, row.value, row.moneda), row.written) << row.rule;
+  }
+}
+
+TEST(LayoutTest, NumbersThatAreNotNumbersAndNullTextsRaise) {
+  const struct {
+    const char* rule;
+    Field field;
+    Variant value;
+    int32_t error;
+  } rows[] = {
+      {"empty number", N("n", 1, 2, Declarado(0)), "", errc::kTypeMismatch},
+      {"word number", N("n", 1, 2, Declarado(0)), "s/n", errc::kTypeMismatch},
+      {"decimal comma", N("n", 1, 15, Declarado(0)), "1,5", errc::kTypeMismatch},
+      {"empty pesetas", Pts("p", 1, 15, Declarado(0)), "", errc::kTypeMismatch},
+      {"Null number", N("n", 1, 2, Declarado(0)), Variant::Null(), errc::kInvalidUseOfNull},
+      {"Null text", T("t", 1, 9, Declarado(0)), Variant::Null(), errc::kInvalidUseOfNull},
+      {"Null mask", Mask("m", 1, 2, Declarado(0)), Variant::Null(), errc::kInvalidUseOfNull},
+      {"element past the buffer", T("t", 1, 9, Declarado(5)), "x", errc::kSubscriptOutOfRange},
+  };
+  for (const auto& row : rows) {
+    EXPECT_RAISES(Written(row.field, row.value), row.error) << row.rule;
+  }
+}
+
+TEST(LayoutTest, ATableTypoIsCaughtBeforeAnythingIsWritten) {
+  constexpr std::array shifted = {Const(1, "2"), Const(2, "347"), T("nifo", 6, 9, Declarado(0))};
+  constexpr std::array sound = {Const(1, "2"), Const(2, "347"), T("nifo", 5, 9, Declarado(0))};
+  constexpr std::array wrong_constant = {Const(1, "2"), Field{"347", 2, 4, Kind::kConstant,
+                                                              Literal("347")}};
+  EXPECT_EQ(FaultyField(Layout{"shifted", 13, shifted}), 2);
+  EXPECT_EQ(FaultyField(Layout{"constant", 5, wrong_constant}), 1);
+  EXPECT_EQ(FaultyField(Layout{"too short", 14, sound}), 3);
+  EXPECT_EQ(FaultyField(Layout{"sound", 13, sound}), -1);
+
+  const Variant record = test::Buffer({"B20000001"});
+  RecordInput input;
+  input.record = &record;
+  const auto error = test::ErrorOf([&] { WriteRecord(Layout{"Reg2 prueba", 13, shifted}, input); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Number(), errc::kInternalError);
+  EXPECT_NE(error->Description().find("Reg2 prueba: field 3 (nifo)"), std::string::npos)
+      << error->Description();
+  EXPECT_EQ(WriteRecord(Layout{"sound", 13, sound}, input), "2347B20000001");
+}
+
+}  // namespace
+}  // namespace zerbal::fileformat

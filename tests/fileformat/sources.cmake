@@ -1,0 +1,3 @@
+list(APPEND ZERBAL_TEST_SOURCES
+  fileformat/layout_test.cc
+)
