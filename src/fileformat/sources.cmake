@@ -1,3 +1,8 @@
 list(APPEND ZERBAL_SOURCES
+  fileformat/export2007.cc
+  fileformat/export2008.cc
+  fileformat/export2011.cc
+  fileformat/export2014.cc
   fileformat/layout.cc
+  fileformat/writers.cc
 )

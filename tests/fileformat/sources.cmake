@@ -1,3 +1,5 @@
 list(APPEND ZERBAL_TEST_SOURCES
+  fileformat/export2014_test.cc
+  fileformat/export_earlier_test.cc
   fileformat/layout_test.cc
 )
