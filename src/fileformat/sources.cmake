@@ -4,5 +4,7 @@ list(APPEND ZERBAL_SOURCES
   fileformat/export2011.cc
   fileformat/export2014.cc
   fileformat/layout.cc
+  fileformat/linea_dte.cc
+  fileformat/seleccion.cc
   fileformat/writers.cc
 )
