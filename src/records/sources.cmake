@@ -3,3 +3,10 @@ list(APPEND ZERBAL_SOURCES
   records/presentador/presentador.cc
   records/presentador/t_presentador.cc
 )
+list(APPEND ZERBAL_SOURCES
+  records/declarados/declarado.cc
+  records/declarados/duplicar_declarados.cc
+  records/declarados/pais.cc
+  records/declarados/t_declarados.cc
+  records/declarados/table_row.cc
+)

@@ -1,3 +1,6 @@
 list(APPEND ZERBAL_TEST_SOURCES
   records/presentador_test.cc
 )
+list(APPEND ZERBAL_TEST_SOURCES
+  records/declarado_test.cc
+)
