@@ -11,19 +11,11 @@ using records::cTDeclarados;
 
 namespace {
 
-// Opens the data database, runs `body` on a new gateway and closes.
-template <typename F>
-auto OnGateway(const std::string& mdbmod, F&& body) {
-  OpenDataDatabase(mdbmod);
-  cTDeclarados gateway;
-  auto result = body(gateway);
-  Conexion().Cerrar();
-  return result;
-}
-
 // A list of declaration `code`, by the gateway's query `list`.
-Variant List(const std::string& mdbmod, int32_t code, Variant (cTDeclarados::*list)()) {
-  return OnGateway(mdbmod, [&](cTDeclarados& gateway) {
+Variant List(std::string_view prefix, const std::string& mdbmod, int32_t code,
+             Variant (cTDeclarados::*list)()) {
+  return InDataDatabase(prefix, mdbmod, [&] {
+    cTDeclarados gateway;
     gateway.Let(cTDeclarados::coddeclar, code);
     return (gateway.*list)();
   });
@@ -39,21 +31,20 @@ bool cDeclarado::DeclaradosCoincidentes(const std::string& strCodDecl, const std
                                         int32_t lngEjerImp, const std::string& opeivacaja,
                                         const std::string& opeinvsujpas,
                                         const std::string& operegposadu) {
-  return WithPrefix("cdeclarado.DeclaradosCoincidentes ", [&] {
-    return OnGateway(mdbmod_, [&](cTDeclarados& g) {
-      g.Let(cTDeclarados::codope, lngCodOpe);
-      g.Let(cTDeclarados::coddeclar, strCodDecl);
-      g.Let(cTDeclarados::nifo, strNif);
-      g.Let(cTDeclarados::claveopo, strClaveOp);
-      g.Let(cTDeclarados::opearr, strOptArr);
-      g.Let(cTDeclarados::opeseg, strOptSeg);
-      g.Let(cTDeclarados::claverep, strOptRep);
-      g.Let(cTDeclarados::ejerimp, lngEjerImp);
-      g.Let(cTDeclarados::opeivacaja, opeivacaja);
-      g.Let(cTDeclarados::opeinvsujpas, opeinvsujpas);
-      g.Let(cTDeclarados::operegposadu, operegposadu);
-      return g.DeclaradosCoincidentes();
-    });
+  return InDataDatabase("cdeclarado.DeclaradosCoincidentes ", mdbmod_, [&] {
+    cTDeclarados g;
+    g.Let(cTDeclarados::codope, lngCodOpe);
+    g.Let(cTDeclarados::coddeclar, strCodDecl);
+    g.Let(cTDeclarados::nifo, strNif);
+    g.Let(cTDeclarados::claveopo, strClaveOp);
+    g.Let(cTDeclarados::opearr, strOptArr);
+    g.Let(cTDeclarados::opeseg, strOptSeg);
+    g.Let(cTDeclarados::claverep, strOptRep);
+    g.Let(cTDeclarados::ejerimp, lngEjerImp);
+    g.Let(cTDeclarados::opeivacaja, opeivacaja);
+    g.Let(cTDeclarados::opeinvsujpas, opeinvsujpas);
+    g.Let(cTDeclarados::operegposadu, operegposadu);
+    return g.DeclaradosCoincidentes();
   });
 }
 
@@ -71,46 +62,39 @@ int32_t cDeclarado::GuardarDeclarado(const Variant& vBufferResultado) {
 }
 
 Variant cDeclarado::ObtenerDeclarados(int32_t lngDeclaracion) {
-  return WithPrefix("cdeclarado.ObtenerDeclarados ", [&] {
-    return List(mdbmod_, lngDeclaracion, &cTDeclarados::ObtenerDeclarados);
-  });
+  return List("cdeclarado.ObtenerDeclarados ", mdbmod_, lngDeclaracion,
+              &cTDeclarados::ObtenerDeclarados);
 }
 
 Variant cDeclarado::ObtenerDeclaradosOpe(int32_t lngDeclaracion) {
-  return WithPrefix("cdeclarado.ObtenerDeclaradosOpe ", [&] {
-    return List(mdbmod_, lngDeclaracion, &cTDeclarados::ObtenerDeclaradosOpe);
-  });
+  return List("cdeclarado.ObtenerDeclaradosOpe ", mdbmod_, lngDeclaracion,
+              &cTDeclarados::ObtenerDeclaradosOpe);
 }
 
 Variant cDeclarado::ObtenerDeclaradosSinValoresEnCamposNuevos2014(int32_t lngDeclaracion) {
-  return WithPrefix("cdeclarado.ObtenerDeclaradosSinValoresEnCamposNuevos2014 ", [&] {
-    return List(mdbmod_, lngDeclaracion, &cTDeclarados::ObtenerDeclaradosOpe);
-  });
+  return List("cdeclarado.ObtenerDeclaradosSinValoresEnCamposNuevos2014 ", mdbmod_, lngDeclaracion,
+              &cTDeclarados::ObtenerDeclaradosOpe);
 }
 
 Variant cDeclarado::CargarDeclarado(int32_t lngDeclarado) {
-  return WithPrefix("cdeclarado.CargarDeclarado ", [&] {
-    return OnGateway(mdbmod_, [&](cTDeclarados& gateway) {
-      gateway.Let(cTDeclarados::codope, lngDeclarado);
-      return gateway.CargarDeclarado();
-    });
+  return InDataDatabase("cdeclarado.CargarDeclarado ", mdbmod_, [&] {
+    cTDeclarados gateway;
+    gateway.Let(cTDeclarados::codope, lngDeclarado);
+    return gateway.CargarDeclarado();
   });
 }
 
 void cDeclarado::EliminarDeclarado(int32_t lngDeclarado) {
-  WithPrefix("clDeclarados.EliminarDeclarado ", [&] {
-    return OnGateway(mdbmod_, [&](cTDeclarados& gateway) {
-      gateway.Let(cTDeclarados::codope, lngDeclarado);
-      return gateway.EliminarDeclarado();
-    });
+  InDataDatabase("clDeclarados.EliminarDeclarado ", mdbmod_, [&] {
+    cTDeclarados gateway;
+    gateway.Let(cTDeclarados::codope, lngDeclarado);
+    return gateway.EliminarDeclarado();
   });
 }
 
 bool cDeclarado::SeImportanTodos(int16_t lngDeclaracion) {
-  return WithPrefix("clDeclarados.SeImportanTodos ", [&] {
-    return OnGateway(mdbmod_,
-                     [&](cTDeclarados& gateway) { return gateway.SeImportanTodos(lngDeclaracion); });
-  });
+  return InDataDatabase("clDeclarados.SeImportanTodos ", mdbmod_,
+                        [&] { return cTDeclarados().SeImportanTodos(lngDeclaracion); });
 }
 
 }  // namespace zerbal
