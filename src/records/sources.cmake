@@ -9,4 +9,7 @@ list(APPEND ZERBAL_SOURCES
   records/declarados/pais.cc
   records/declarados/t_declarados.cc
   records/declarados/table_row.cc
+  records/arrendamientos/arrendamiento.cc
+  records/arrendamientos/duplicar_arrendamientos.cc
+  records/arrendamientos/t_arrendamientos.cc
 )
