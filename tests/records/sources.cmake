@@ -3,4 +3,6 @@ list(APPEND ZERBAL_TEST_SOURCES
 )
 list(APPEND ZERBAL_TEST_SOURCES
   records/declarado_test.cc
+  records/arrendamiento_test.cc
+  records/duplicar_test.cc
 )
