@@ -75,9 +75,11 @@ class cDeclarado : public PathProperties {
 
   // True when the declaration has rows, or when any row of any declaration
   // has a value in a 2014 column (siglaspaisintra, opeivacaja,
-  // opeinvsujpas, operegposadu, or impanudevopecaj above 0).
-  // Prefix "clDeclarados.SeImportanTodos ".
-  bool SeImportanTodos(int16_t lngDeclaracion);
+  // opeinvsujpas, operegposadu, or impanudevopecaj above 0). The code is a
+  // 16-bit number: outside -32,768 to 32,767 it raises 6 (overflow), with
+  // no prefix and before anything is opened, as the conversion of the
+  // argument would. Prefix "clDeclarados.SeImportanTodos ".
+  bool SeImportanTodos(int32_t lngDeclaracion);
 };
 
 }  // namespace zerbal

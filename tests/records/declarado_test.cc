@@ -201,6 +201,12 @@ TEST_F(DeclaradoTest, SeImportanTodosLooksAtEveryDeclarationForNewColumns) {
   declarado_.GuardarDeclarado(plain);
   EXPECT_TRUE(declarado_.SeImportanTodos(7));
   EXPECT_FALSE(declarado_.SeImportanTodos(8)) << "blank 2014 columns and no rows of 8";
+  EXPECT_FALSE(declarado_.SeImportanTodos(32767));
+  EXPECT_FALSE(declarado_.SeImportanTodos(-32768));
+  const auto overflow = test::ErrorOf([&] { declarado_.SeImportanTodos(32768); });
+  ASSERT_TRUE(overflow);
+  EXPECT_EQ(overflow->Number(), errc::kOverflow);
+  EXPECT_EQ(overflow->Description().find("clDeclarados"), std::string::npos);
 
   struct Case {
     const char* name;

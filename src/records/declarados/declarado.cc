@@ -92,9 +92,10 @@ void cDeclarado::EliminarDeclarado(int32_t lngDeclarado) {
   });
 }
 
-bool cDeclarado::SeImportanTodos(int16_t lngDeclaracion) {
+bool cDeclarado::SeImportanTodos(int32_t lngDeclaracion) {
+  const int16_t code = CInt(lngDeclaracion);
   return InDataDatabase("clDeclarados.SeImportanTodos ", mdbmod_,
-                        [&] { return cTDeclarados().SeImportanTodos(lngDeclaracion); });
+                        [&] { return cTDeclarados().SeImportanTodos(code); });
 }
 
 }  // namespace zerbal
