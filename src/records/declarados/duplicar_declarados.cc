@@ -82,7 +82,7 @@ Plan PlanPosterior(int32_t yo, int32_t yd) {
 
 // Into an earlier year (Yd < Yo).
 Plan PlanAnterior(int32_t yo, int32_t yd) {
-  // Up to 2007 keys F and G did not exist and amounts were not negative.
+  // A declaration of 2007 or before holds no key F or G and no negative amount.
   const bool hasta_2007 = yd <= 2007 && yo <= 2013;
   return Plan{{true, true, yd >= 2011, false, false},
               hasta_2007,
