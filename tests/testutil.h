@@ -58,6 +58,11 @@ void Exec(const std::string& path, const std::string& sql);
 
 }  // namespace zerbal::test
 
+namespace zerbal {
+// Failing expectations print variants as DebugString shows them.
+inline void PrintTo(const Variant& value, std::ostream* os) { *os << DebugString(value); }
+}  // namespace zerbal
+
 // Asserts that `statement` raises error `number`; more context may be
 // streamed in with <<.
 #define EXPECT_RAISES(statement, number) \

@@ -1,4 +1,8 @@
 list(APPEND ZERBAL_SOURCES
+  records/declaraciones/declaraciones.cc
+  records/declaraciones/t_declaraciones.cc
+  records/declarante/declarante.cc
+  records/declarante/t_declarante.cc
   records/persona/persona_row.cc
   records/presentador/presentador.cc
   records/presentador/t_presentador.cc

@@ -1,4 +1,6 @@
 list(APPEND ZERBAL_TEST_SOURCES
+  records/declaraciones_test.cc
+  records/declarante_test.cc
   records/presentador_test.cc
 )
 list(APPEND ZERBAL_TEST_SOURCES
