@@ -15,6 +15,7 @@ using Args = std::vector<std::string>;
 
 int RunInit(const Args& args, std::ostream& out, std::ostream& err);
 int RunDemo(const Args& args, std::ostream& out, std::ostream& err);
+int RunExport(const Args& args, std::ostream& out, std::ostream& err);
 int RunAutomation(const Args& args, std::istream& in, std::ostream& out, std::ostream& err);
 
 // Writes "zerbal: <description> (error <number>)" for the error being

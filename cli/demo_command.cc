@@ -1,13 +1,24 @@
-// zerbal demo: a short walk through the library on fresh databases.
+// zerbal demo: a walk through the library on fresh databases, printing each
+// step: the presenter, two declarants with their declarations, operations
+// and rentals, copies into other years, the export of three fiscal years,
+// and deletions.
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <iomanip>
 #include <ostream>
 #include <string>
 
+#include "base/text.h"
 #include "cli/commands.h"
+#include "cli/demo_data.h"
+#include "cli/export_file.h"
+#include "zerbal/arrendamiento.h"
 #include "zerbal/databases.h"
+#include "zerbal/declaraciones.h"
+#include "zerbal/declarado.h"
+#include "zerbal/declarante.h"
 #include "zerbal/presentador.h"
 #include "zerbal/variant.h"
 
@@ -20,31 +31,16 @@ constexpr const char* kUsage =
     "usage: zerbal demo [DIR]\n"
     "\n"
     "Creates the two databases in DIR (default: a new temporary folder, whose\n"
-    "name is printed) and walks through the library: saves a presenter, loads\n"
-    "it back, finds it by its tax identifier and deletes it. DIR must not\n"
-    "hold databases already.\n";
+    "name is printed) and walks through the library: a presenter, two\n"
+    "declarants with declarations of 2014 and 2012, operations and rentals,\n"
+    "copies into 2015 and 2010, the declaration files of 2014, 2012 and 2010\n"
+    "(DIR/347_<year>.txt, written as `zerbal export` writes them), and\n"
+    "deletions. DIR must not hold databases already; the databases stay there.\n";
 
 constexpr const char* kPresenterFields[] = {
     "codpres", "dni_cif", "nombre", "via", "domicilio", "numero", "letra", "escalera", "piso",
     "mano", "cod", "codpostal", "municipio", "prefijo", "telefono", "nombrep", "prefijop",
     "telefonop"};
-
-void PrintBuffer(std::ostream& out, const Variant& buffer, const char* const* names) {
-  const Array& a = buffer.AsArray();
-  for (int32_t i = a.LBound(); i <= a.UBound(); ++i) {
-    out << "     " << std::setw(2) << i << "  " << std::left << std::setw(10) << names[i]
-        << std::right << "  " << DebugString(a(i)) << "\n";
-  }
-}
-
-Variant SamplePresenter() {
-  Variant buffer(Array(0, 17));
-  const Variant values[] = {0, "B20456786", "Aholkularitza D'Elosegi S.L.", "CL",
-                            "Kale Nagusia", 12, "", "", "3", "B", 20, "20005",
-                            "Donostia", 943, "123456", "Miren Etxeberria", 943, "654321"};
-  for (int32_t i = 0; i <= 17; ++i) buffer(i) = values[i];
-  return buffer;
-}
 
 fs::path DemoFolder(const Args& args) {
   if (!args.empty()) return args[0];
@@ -54,32 +50,137 @@ fs::path DemoFolder(const Args& args) {
   return pattern;
 }
 
-void Walk(const fs::path& dir, std::ostream& out) {
-  const DatabasePaths paths = CreateDatabases(dir);
-  out << "zerbal demo in " << dir.string() << "\n\n"
-      << "1. Created " << paths.data.filename().string() << " (data) and "
-      << paths.lookup.filename().string() << " (lookup)\n";
+class Demo {
+ public:
+  Demo(const fs::path& dir, std::ostream& out) : dir_(dir), out_(out) {
+    paths_ = CreateDatabases(dir);
+    for (PathProperties* c : std::initializer_list<PathProperties*>{
+             &presentador_, &declarante_, &declaraciones_, &declarado_, &arrendamiento_}) {
+      c->mdbmod(paths_.data.string());
+      c->mdblec(paths_.lookup.string());
+    }
+    out_ << "zerbal demo in " << dir.string() << "\n\n"
+         << "1. Created " << paths_.data.filename().string() << " (data) and "
+         << paths_.lookup.filename().string() << " (lookup)\n";
+  }
 
-  cPresentador presenter;
-  presenter.mdbmod(paths.data.string());
-  presenter.mdblec(paths.lookup.string());
-  const int32_t code = presenter.GuardarPresentador(SamplePresenter());
-  out << "2. Saved the presenter: code " << code << "\n";
+  void Run() {
+    Presenter();
+    Declarants();
+    Copies();
+    Lists("7. Declarants and their declarations (year, currency, operations, rentals):");
+    Exports();
+    Deletions();
+  }
 
-  Variant loaded;
-  presenter.CargarPresentador(loaded);
-  out << "3. Loaded it back (the postal code keeps its last three digits; an\n"
-         "   apostrophe is stored as an acute accent):\n";
-  PrintBuffer(out, loaded, kPresenterFields);
+ private:
+  void Presenter() {
+    presenter_code_ = presentador_.GuardarPresentador(SamplePresenter());
+    out_ << "2. Saved the presenter: code " << presenter_code_ << "\n";
+    Variant loaded;
+    presentador_.CargarPresentador(loaded);
+    out_ << "3. Loaded it back (the postal code keeps its last three digits; an\n"
+            "   apostrophe is stored as an acute accent):\n";
+    for (int32_t i = 0; i <= 17; ++i) {
+      out_ << "     " << std::setw(2) << i << "  " << std::left << std::setw(10)
+           << kPresenterFields[i] << std::right << "  " << DebugString(loaded(i)) << "\n";
+    }
+    out_ << "4. Found by NIF B20456786: code " << presentador_.NifRepetido("B20456786")
+         << "; by b20456786: code " << presentador_.NifRepetido("b20456786")
+         << "; by B2045678: code " << presentador_.NifRepetido("B2045678") << "\n";
+    presentador_.EliminarPresentador(presenter_code_);
+    out_ << "   Deleted presenter " << presenter_code_ << "; finding it again gives "
+         << presentador_.NifRepetido("B20456786");
+    presenter_code_ = presentador_.GuardarPresentador(SamplePresenter());
+    out_ << "; saved it again as " << presenter_code_ << " for the files' record 0\n";
+  }
 
-  out << "4. Found by NIF B20456786: code " << presenter.NifRepetido("B20456786")
-      << "; by b20456786: code " << presenter.NifRepetido("b20456786")
-      << "; by B2045678: code " << presenter.NifRepetido("B2045678") << "\n";
+  void Declarants() {
+    out_ << "5. Saved two declarants, each with declarations of 2014 and 2012:\n";
+    for (const DemoDeclarant& d : SampleDeclarants()) {
+      const int32_t code = declarante_.GuardarDeclarante(DeclarantBuffer(d));
+      codes_.push_back(code);
+      out_ << "     declarant " << code << " " << d.nif << " " << d.name << "\n";
+      for (int32_t year : {2014, 2012}) {
+        const int32_t declaration = declaraciones_.GuardarDeclaracion(year, "E", code);
+        for (const DemoOperation& op : d.operations) {
+          declarado_.GuardarDeclarado(OperationBuffer(declaration, year, op));
+        }
+        for (const DemoRental& r : d.rentals) {
+          arrendamiento_.GuardarArrendamiento(RentalBuffer(declaration, r));
+        }
+        out_ << "       " << year << ": declaration " << declaration << ", "
+             << "operations: " << d.operations.size() << ", rentals: " << d.rentals.size() << "\n";
+      }
+    }
+  }
 
-  presenter.EliminarPresentador(code);
-  out << "5. Deleted presenter " << code << "; finding it again gives "
-      << presenter.NifRepetido("B20456786") << "\n";
-}
+  void Copies() {
+    const int32_t first_2014 = declaraciones_.ObtenerDeclaracion(codes_[0], 2014);
+    const int32_t copy_2015 = declaraciones_.DuplicarDeclaracion(2014, 2015, "E", first_2014);
+    const int32_t second_2012 = declaraciones_.ObtenerDeclaracion(codes_[1], 2012);
+    const int32_t copy_2010 = declaraciones_.DuplicarDeclaracion(2012, 2010, "E", second_2012);
+    out_ << "6. Copied declaration " << first_2014 << " (2014) to 2015 as " << copy_2015
+         << ", and " << second_2012 << " (2012) to 2010 as " << copy_2010
+         << "\n   (into 2010 the negative amounts are left out and the quarters dropped)\n";
+  }
+
+  void Lists(const char* title) {
+    out_ << title << "\n";
+    const Variant list = declarante_.ObtenerDeclarantes();
+    if (list.IsNull()) return;
+    for (int32_t k = 1; k <= list.AsArray().UBound(2); ++k) {
+      out_ << "     " << list(0, k).AsString() << "  " << list(1, k).AsString() << "  "
+           << list(2, k).AsString() << "\n";
+      const Variant years = declaraciones_.ObtenerDeclaraciones(CLngOf(list(0, k)));
+      for (int32_t r = 1; !years.IsNull() && r <= years.AsArray().UBound(2); ++r) {
+        out_ << "        " << DebugString(years(1, r)) << " " << years(2, r).AsString()
+             << "  operations: " << DebugString(years(3, r))
+             << ", rentals: " << DebugString(years(4, r)) << "\n";
+      }
+    }
+  }
+
+  void Exports() {
+    out_ << "8. Exported the declaration files (record 0, then each declarant's 1, 2 and 3):\n";
+    for (int32_t year : {2014, 2012, 2010}) {
+      ExportOptions options;
+      options.data = paths_.data;
+      options.year = year;
+      options.out = dir_ / ("347_" + std::to_string(year) + ".txt");
+      const ExportSummary s = ExportYear(options);
+      out_ << "     " << s.file.filename().string() << ": " << s.declarants << " declarants, "
+           << s.records << " records; first records:\n";
+      std::ifstream file(s.file, std::ios::binary);
+      std::string line;
+      for (int n = 0; n < 2 && std::getline(file, line); ++n) {
+        // The file is in Windows-1252; the terminal shows UTF-8.
+        out_ << "       " << Left(Windows1252ToUtf8(line), 96) << "...\n";
+      }
+    }
+  }
+
+  void Deletions() {
+    declarante_.EliminarDeclarante(codes_[1], true);
+    Lists(("9. Deleted declarant " + std::to_string(codes_[1]) +
+           " with its declarations; what is left:").c_str());
+    out_ << "\nThe databases stay in " << dir_.string() << "; try\n  zerbal export --dir "
+         << dir_.string() << " --year 2014 --out 347_2014.txt\n";
+  }
+
+  static int32_t CLngOf(const Variant& text) { return std::stoi(text.AsString()); }
+
+  fs::path dir_;
+  std::ostream& out_;
+  DatabasePaths paths_;
+  cPresentador presentador_;
+  cDeclarante declarante_;
+  cDeclaraciones declaraciones_;
+  cDeclarado declarado_;
+  cArrendamiento arrendamiento_;
+  int32_t presenter_code_ = 0;
+  std::vector<int32_t> codes_;
+};
 
 }  // namespace
 
@@ -93,8 +194,11 @@ int RunDemo(const Args& args, std::ostream& out, std::ostream& err) {
     return 2;
   }
   try {
-    Walk(DemoFolder(args), out);
+    Demo(DemoFolder(args), out).Run();
     return 0;
+  } catch (const ExportFailure& e) {
+    err << "zerbal: " << e.what() << "\n";
+    return 1;
   } catch (...) {
     return ReportError(err);
   }

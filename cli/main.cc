@@ -18,6 +18,8 @@ constexpr const char* kUsage =
     "  init DIR [--force]   create the data and lookup databases in DIR\n"
     "  demo [DIR]           run a short demonstration in DIR (default: a new\n"
     "                       temporary folder)\n"
+    "  export --dir DIR --year YEAR --out FILE\n"
+    "                       write the declaration file of a fiscal year\n"
     "  nif [--vat] [ID...]  check Spanish tax identifiers (or VAT numbers)\n"
     "  automation           drive the library's classes with JSON lines on\n"
     "                       standard input and output\n"
@@ -40,6 +42,7 @@ int main(int argc, char** argv) {
   }
   if (command == "init") return RunInit(args, std::cout, std::cerr);
   if (command == "demo") return RunDemo(args, std::cout, std::cerr);
+  if (command == "export") return RunExport(args, std::cout, std::cerr);
   if (command == "automation") return RunAutomation(args, std::cin, std::cout, std::cerr);
   if (command == "nif") return RunNif(args, std::cin, std::cout, std::cerr);
   std::cerr << "zerbal: unknown command '" << command << "'\n\n" << kUsage;

@@ -3,8 +3,10 @@ list(APPEND ZERBAL_SOURCES
   fileformat/export2008.cc
   fileformat/export2011.cc
   fileformat/export2014.cc
+  fileformat/exportacion.cc
   fileformat/layout.cc
   fileformat/linea_dte.cc
   fileformat/seleccion.cc
+  fileformat/t_imp_exp.cc
   fileformat/writers.cc
 )

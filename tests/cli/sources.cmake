@@ -1,3 +1,4 @@
 list(APPEND ZERBAL_TEST_SOURCES
   cli/cli_test.cc
+  cli/export_test.cc
 )
