@@ -123,6 +123,19 @@ std::string RepeatChar(std::string_view fill, int64_t count) {
   return out;
 }
 
+bool SameText(std::string_view a, std::string_view b) {
+  size_t i = 0;
+  size_t j = 0;
+  while (i < a.size() && j < b.size()) {
+    size_t size_a = 1;
+    size_t size_b = 1;
+    if (ToUpper(DecodeAt(a, i, &size_a)) != ToUpper(DecodeAt(b, j, &size_b))) return false;
+    i += size_a;
+    j += size_b;
+  }
+  return i == a.size() && j == b.size();
+}
+
 char32_t ToUpper(char32_t c) {
   if (c >= 'a' && c <= 'z') return c - 32;
   if (c < 0xE0) return c;

@@ -44,6 +44,9 @@ char32_t DecodeAt(std::string_view text, size_t pos, size_t* size);
 // Appends the UTF-8 form of `c`.
 void AppendUtf8(std::string* out, char32_t c);
 
+// Whether the texts are equal but for the case of their letters.
+bool SameText(std::string_view a, std::string_view b);
+
 // Upper and lower case of one character (Latin letters, with and without
 // accents; other characters are returned as they are).
 char32_t ToUpper(char32_t c);

@@ -38,6 +38,7 @@ void CheckTarget(const fs::path& path, bool replace) {
 }
 
 void Build(const fs::path& file, const std::vector<std::string_view>& scripts) {
+  data::PrepareEngine();
   sqlite3* raw = nullptr;
   const int rc = sqlite3_open_v2(file.c_str(), &raw,
                                  SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_EXRESCODE,

@@ -26,6 +26,10 @@ namespace zerbal::data {
 // taken for one of ours ('zrbl').
 inline constexpr int32_t kApplicationId = 0x7A72626C;
 
+// Settings of the engine that must come before its first use; every path
+// that opens a file calls it first.
+void PrepareEngine();
+
 // How long a statement waits for another process's lock before it fails with
 // 3260. The default suits people; tests shorten it.
 std::chrono::milliseconds BusyTimeout();

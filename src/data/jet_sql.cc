@@ -81,9 +81,18 @@ Tokens Tokenize(std::string_view sql) {
   return tokens;
 }
 
+// Keywords are ASCII: compare without building an upper-case copy.
+bool SameWord(std::string_view text, std::string_view upper) {
+  if (text.size() != upper.size()) return false;
+  for (size_t k = 0; k < text.size(); ++k) {
+    if (std::toupper(static_cast<unsigned char>(text[k])) != upper[k]) return false;
+  }
+  return true;
+}
+
 bool Is(const Tokens& t, size_t i, std::string_view upper_word) {
   return i < t.size() && (t[i].kind == Tok::kWord || t[i].kind == Tok::kPunct) &&
-         UCase(t[i].text) == upper_word;
+         SameWord(t[i].text, upper_word);
 }
 
 // Index of the first token at or after `i` that is not blank; t.size() if none.

@@ -1,6 +1,6 @@
 #include "zerbal/recordset.h"
 
-#include "base/convert.h"
+#include "base/text.h"
 #include "base/raise.h"
 #include "data/recordset_state.h"
 #include "data/sqlite.h"
@@ -72,10 +72,9 @@ Field Recordset::Fields(int32_t index) const {
 }
 
 Field Recordset::Fields(std::string_view name) const {
-  const std::string wanted = UCase(name);
   const std::vector<std::string>& names = Open(state_).names;
   for (size_t k = 0; k < names.size(); ++k) {
-    if (UCase(names[k]) == wanted) return Field(state_, static_cast<int32_t>(k));
+    if (SameText(names[k], name)) return Field(state_, static_cast<int32_t>(k));
   }
   Raise(errc::kItemNotFound, name, data::kEngineSource);
 }
