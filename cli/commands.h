@@ -18,8 +18,9 @@ int RunDemo(const Args& args, std::ostream& out, std::ostream& err);
 int RunExport(const Args& args, std::ostream& out, std::ostream& err);
 int RunAutomation(const Args& args, std::istream& in, std::ostream& out, std::ostream& err);
 
-// Writes "zerbal: <description> (error <number>)" for the error being
-// handled and returns 1. Call only inside a catch block.
+// Writes "zerbal: <description> (error <number>)" for the library's error
+// being handled ("zerbal: <message>" for any other) and returns 1. Call only
+// inside a catch block.
 int ReportError(std::ostream& err);
 
 // Whether `args` asks for help ("--help" or "-h").

@@ -196,9 +196,6 @@ int RunDemo(const Args& args, std::ostream& out, std::ostream& err) {
   try {
     Demo(DemoFolder(args), out).Run();
     return 0;
-  } catch (const ExportFailure& e) {
-    err << "zerbal: " << e.what() << "\n";
-    return 1;
   } catch (...) {
     return ReportError(err);
   }

@@ -79,9 +79,6 @@ int RunExport(const Args& args, std::ostream& out, std::ostream& err) {
           << " characters have no Windows-1252 code and were written as \"?\"\n";
     }
     return 0;
-  } catch (const ExportFailure& e) {
-    err << "zerbal: " << e.what() << "\n";
-    return 1;
   } catch (...) {
     return ReportError(err);
   }

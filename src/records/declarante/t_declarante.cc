@@ -22,21 +22,6 @@ const PersonaTable kTable = {
 
 cTDeclarante::cTDeclarante() : PersonaRow(kTable) {}
 
-bool cTDeclarante::Insertar() {
-  Conexion().execute(InsertSql());
-  return true;
-}
-
-bool cTDeclarante::Borrar() {
-  Conexion().execute(DeleteSql());
-  return true;
-}
-
-bool cTDeclarante::Modificar() {
-  Conexion().execute(UpdateSql());
-  return true;
-}
-
 bool cTDeclarante::Seleccionar() {
   const int32_t code = CLng(Get(kCodigo));
   if (code <= 0) return false;

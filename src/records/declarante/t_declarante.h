@@ -19,10 +19,6 @@ class cTDeclarante : public PersonaRow {
  public:
   cTDeclarante();
 
-  // Errors raised unchanged.
-  bool Insertar();
-  bool Borrar();
-  bool Modificar();
   // Loads the declarant of the stored coddec (when above 0; otherwise false
   // and nothing changes). A code with no row raises 3021.
   bool Seleccionar();

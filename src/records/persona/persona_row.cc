@@ -3,6 +3,7 @@
 #include "base/convert.h"
 #include "base/text.h"
 #include "data/buffers.h"
+#include "zerbal/conexion_dao.h"
 
 namespace zerbal::records {
 namespace {
@@ -115,6 +116,21 @@ std::string PersonaRow::UpdateSql() const {
            Value(static_cast<PersonaSlot>(slot), !IsNumber(slot));
   }
   return sql + " WHERE " + std::string(table_.columns[kCodigo]) + " = " + Value(kCodigo, false);
+}
+
+bool PersonaRow::Insertar() {
+  Conexion().execute(InsertSql());
+  return true;
+}
+
+bool PersonaRow::Borrar() {
+  Conexion().execute(DeleteSql());
+  return true;
+}
+
+bool PersonaRow::Modificar() {
+  Conexion().execute(UpdateSql());
+  return true;
 }
 
 std::string PersonaRow::DeleteSql() const {

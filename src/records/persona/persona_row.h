@@ -53,15 +53,20 @@ class PersonaRow {
   // person's name; the key too when `with_key`.
   void Load(const Recordset& row, bool with_key);
 
-  std::string InsertSql() const;
-  std::string UpdateSql() const;
-  std::string DeleteSql() const;
+  // The statements both tables take, run on the shared connection; errors
+  // raised unchanged. Each returns true.
+  bool Insertar();
+  bool Borrar();
+  bool Modificar();
 
  protected:
   const PersonaTable& table() const { return table_; }
 
  private:
   std::string Value(PersonaSlot slot, bool quote) const;
+  std::string InsertSql() const;
+  std::string UpdateSql() const;
+  std::string DeleteSql() const;
 
   const PersonaTable& table_;
   std::array<Variant, kPersonaSlots> values_;

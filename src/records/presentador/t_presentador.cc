@@ -21,21 +21,6 @@ const PersonaTable kTable = {
 
 cTPresentador::cTPresentador() : PersonaRow(kTable) {}
 
-bool cTPresentador::Insertar() {
-  Conexion().execute(InsertSql());
-  return true;
-}
-
-bool cTPresentador::Borrar() {
-  Conexion().execute(DeleteSql());
-  return true;
-}
-
-bool cTPresentador::Modificar() {
-  Conexion().execute(UpdateSql());
-  return true;
-}
-
 bool cTPresentador::Seleccionar() {
   Recordset rs = Conexion().openRecordset("SELECT * FROM TPresentador");
   if (rs.Eof()) return false;

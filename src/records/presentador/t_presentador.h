@@ -20,9 +20,6 @@ class cTPresentador : public PersonaRow {
  public:
   cTPresentador();
 
-  bool Insertar();
-  bool Borrar();
-  bool Modificar();
   // Loads the first row of the table (whichever the engine gives first),
   // key included; false, with nothing changed, when the table is empty.
   bool Seleccionar();
