@@ -39,4 +39,10 @@ size_t FindMember(std::span<const std::string_view> names, std::span<const Invoc
   return fallback;
 }
 
+void CheckArgumentCount(std::string_view member, int required, int optional, size_t given) {
+  if (given < static_cast<size_t>(required) || given > static_cast<size_t>(required + optional)) {
+    Raise(errc::kWrongArgumentCount, member);
+  }
+}
+
 }  // namespace zerbal::automation

@@ -10,6 +10,8 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "base/convert.h"
@@ -20,13 +22,16 @@ namespace zerbal::automation {
 
 using Args = std::vector<Variant>;
 
+// One member of class T: `call` runs it and gives its value; a member that
+// returns an object has `object` instead (and no `call`).
 template <typename T>
 struct Member {
   std::string_view name;
   Invocation kind;
   int required;
   int optional;
-  Variant (*call)(T& self, Args& args);
+  Variant (*call)(T& self, Args& args) = nullptr;
+  std::unique_ptr<AutomationObject> (*object)(T& self, Args& args) = nullptr;
 };
 
 // Whether the caller gave argument `i`.
@@ -46,25 +51,82 @@ std::string StringArg(const Args& args, size_t i);
 size_t FindMember(std::span<const std::string_view> names, std::span<const Invocation> kinds,
                   std::string_view name, Invocation kind);
 
+// Raises 450 unless `given` arguments lie between `required` and
+// `required + optional`.
+void CheckArgumentCount(std::string_view member, int required, int optional, size_t given);
+
+// What a method gives, as the Variant a late-bound caller receives: Empty
+// for a method without a result.
+template <typename F>
+Variant AsResult(F&& call) {
+  if constexpr (std::is_void_v<decltype(call())>) {
+    call();
+    return Variant();
+  } else {
+    return Variant(call());
+  }
+}
+
+// The class of a method, for the `call` makers below.
+template <typename M>
+struct MethodOf;
+template <typename T, typename R, typename... A>
+struct MethodOf<R (T::*)(A...)> {
+  using Class = T;
+};
+template <typename T, typename R, typename... A>
+struct MethodOf<R (T::*)(A...) const> {
+  using Class = T;
+};
+
+// The `call` of a method without arguments.
+template <auto kMethod>
+Variant PlainMethod(typename MethodOf<decltype(kMethod)>::Class& self, Args&) {
+  return AsResult([&] { return (self.*kMethod)(); });
+}
+
+// The `call` of a method whose one argument is a string.
+template <auto kMethod>
+Variant TextMethod(typename MethodOf<decltype(kMethod)>::Class& self, Args& args) {
+  return AsResult([&] { return (self.*kMethod)(StringArg(args, 0)); });
+}
+
+// The `call` of a method whose one argument is a 32-bit code.
+template <auto kMethod>
+Variant CodeMethod(typename MethodOf<decltype(kMethod)>::Class& self, Args& args) {
+  return AsResult([&] { return (self.*kMethod)(LongArg(args, 0)); });
+}
+
+// The `call` of a method whose one argument is a Variant (a buffer), given
+// to the method as the caller passed it.
+template <auto kMethod>
+Variant VariantMethod(typename MethodOf<decltype(kMethod)>::Class& self, Args& args) {
+  return AsResult([&] { return (self.*kMethod)(args[0]); });
+}
+
 template <typename T>
 class Bound final : public AutomationObject {
  public:
-  Bound(std::string_view class_name, std::span<const Member<T>> members)
-      : class_name_(class_name), members_(members) {
+  // `self_` is made from `init`: nothing for a class a client creates, the
+  // wrapped value for an object that a member returns.
+  template <typename... Init>
+  Bound(std::string_view class_name, std::span<const Member<T>> members, Init&&... init)
+      : self_(std::forward<Init>(init)...), class_name_(class_name), members_(members) {
     for (const Member<T>& m : members_) {
       names_.push_back(m.name);
       kinds_.push_back(m.kind);
     }
   }
 
-  Variant Invoke(std::string_view name, Invocation kind, Args& args) override {
-    const Member<T>& member = members_[FindMember(names_, kinds_, name, kind)];
-    const size_t given = args.size();
-    if (given < static_cast<size_t>(member.required) ||
-        given > static_cast<size_t>(member.required + member.optional)) {
-      Raise(errc::kWrongArgumentCount, member.name);
-    }
-    return member.call(self_, args);
+  Returned Dispatch(std::string_view name, Invocation kind, Args& args) override {
+    const Member<T>& member = Find(name, kind);
+    CheckArgumentCount(member.name, member.required, member.optional, args.size());
+    if (member.object) return {Variant(), member.object(self_, args)};
+    return {member.call(self_, args), nullptr};
+  }
+
+  bool ReturnsObject(std::string_view name, Invocation kind) const override {
+    return Find(name, kind).object != nullptr;
   }
 
   std::string_view ClassName() const override { return class_name_; }
@@ -72,7 +134,7 @@ class Bound final : public AutomationObject {
   std::vector<MemberInfo> Members() const override {
     std::vector<MemberInfo> out;
     for (const Member<T>& m : members_) {
-      out.push_back({std::string(m.name), m.kind, m.required, m.optional});
+      out.push_back({std::string(m.name), m.kind, m.required, m.optional, m.object != nullptr});
     }
     return out;
   }
@@ -80,6 +142,10 @@ class Bound final : public AutomationObject {
   T& object() { return self_; }
 
  private:
+  const Member<T>& Find(std::string_view name, Invocation kind) const {
+    return members_[FindMember(names_, kinds_, name, kind)];
+  }
+
   T self_;
   std::string_view class_name_;
   std::span<const Member<T>> members_;
@@ -87,10 +153,11 @@ class Bound final : public AutomationObject {
   std::vector<Invocation> kinds_;
 };
 
-template <typename T>
+// A bound object of class T; `init` as for Bound.
+template <typename T, typename... Init>
 std::unique_ptr<AutomationObject> Bind(std::string_view class_name,
-                                       std::span<const Member<T>> members) {
-  return std::make_unique<Bound<T>>(class_name, members);
+                                       std::span<const Member<T>> members, Init&&... init) {
+  return std::make_unique<Bound<T>>(class_name, members, std::forward<Init>(init)...);
 }
 
 }  // namespace zerbal::automation

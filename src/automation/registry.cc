@@ -3,6 +3,7 @@
 #include "automation/classes.h"
 #include "base/convert.h"
 #include "base/raise.h"
+#include "reference/miscelaneos.h"
 #include "zerbal/automation.h"
 
 namespace zerbal {
@@ -15,7 +16,13 @@ struct ClassEntry {
 
 // Every class a client can create by name.
 constexpr ClassEntry kClasses[] = {
-    {"Brevandol.cMiscelaneos", automation::NewMiscelaneos},
+    {kMiscelaneosProgId, automation::NewMiscelaneos},
+    {automation::kConexionDAOProgId, automation::NewConexionDAO},
+    {automation::kDeclaranteProgId, automation::NewDeclarante},
+    {automation::kDeclaracionesProgId, automation::NewDeclaraciones},
+    {automation::kDeclaradoProgId, automation::NewDeclarado},
+    {automation::kArrendamientoProgId, automation::NewArrendamiento},
+    {automation::kPresentadorProgId, automation::NewPresentador},
 };
 
 }  // namespace
@@ -32,6 +39,19 @@ std::vector<std::string> RegisteredClasses() {
   std::vector<std::string> names;
   for (const ClassEntry& entry : kClasses) names.emplace_back(entry.progid);
   return names;
+}
+
+Variant AutomationObject::Invoke(std::string_view name, Invocation kind,
+                                 std::vector<Variant>& args) {
+  if (ReturnsObject(name, kind)) Raise(errc::kTypeMismatch, std::string(name) + " returns an object");
+  return Dispatch(name, kind, args).value;
+}
+
+std::unique_ptr<AutomationObject> AutomationObject::InvokeObject(std::string_view name,
+                                                                 Invocation kind,
+                                                                 std::vector<Variant>& args) {
+  if (!ReturnsObject(name, kind)) Raise(errc::kTypeMismatch, std::string(name) + " returns no object");
+  return Dispatch(name, kind, args).object;
 }
 
 Variant AutomationObject::Get(std::string_view name) {

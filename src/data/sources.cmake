@@ -2,6 +2,7 @@ list(APPEND ZERBAL_SOURCES
   data/buffers.cc
   data/busy_pointer.cc
   data/conexion_dao.cc
+  data/conexion_dao_binding.cc
   data/database.cc
   data/databases.cc
   data/engine.cc
@@ -9,6 +10,7 @@ list(APPEND ZERBAL_SOURCES
   data/jet_sql.cc
   data/queries.cc
   data/recordset.cc
+  data/recordset_binding.cc
   data/sqlite.cc
 )
 # The SQL that creates and fills the databases, embedded in the library.

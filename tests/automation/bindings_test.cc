@@ -1,0 +1,190 @@
+// The record classes and the connection driven by name: arguments changed
+// by reference, optional arguments left out, late-binding errors, errors of
+// the library passed on unchanged, and an object returned by a member.
+
+#include "testutil.h"
+#include "zerbal/automation.h"
+#include "zerbal/declaraciones.h"
+#include "zerbal/presentador.h"
+
+namespace zerbal {
+namespace {
+
+using Args = std::vector<Variant>;
+using Rows = std::vector<std::vector<Variant>>;
+
+Variant PersonBuffer(int32_t code, const std::string& nif, const std::string& name) {
+  Variant b(Array(0, 17));
+  const Variant values[] = {code, nif, name, "CL", "Kale Nagusia", 12, "", "B", "3", "izq",
+                            20,   "20005", "Donostia", 943, "", "Ane", 0, "654321"};
+  for (int32_t i = 0; i <= 17; ++i) b(i) = values[i];
+  return b;
+}
+
+class BindingsTest : public test::DatabaseTest {
+ protected:
+  // A new object of `progid` with both paths set.
+  std::unique_ptr<AutomationObject> Make(std::string_view progid) {
+    auto object = CreateObject(progid);
+    object->Let("mdbmod", mod_);
+    object->Let("mdblec", lec_);
+    return object;
+  }
+  static Variant Call(AutomationObject& object, std::string_view name, Args args) {
+    return object.Call(name, args);
+  }
+};
+
+TEST_F(BindingsTest, BuffersTakenByReferenceComeBackInTheArguments) {
+  auto presenter = Make("zerbal.cPresentador");
+  EXPECT_EQ(Call(*presenter, "GuardarPresentador", {PersonBuffer(0, "B20456786", "Irizar")}),
+            Variant(1));
+  Args load{Variant()};
+  EXPECT_TRUE(presenter->Call("CargarPresentador", load).IsEmpty()) << "a procedure gives Empty";
+  cPresentador direct;
+  direct.mdbmod(mod_);
+  Variant expected;
+  direct.CargarPresentador(expected);
+  EXPECT_EQ(load[0], expected);
+  EXPECT_EQ(load[0](2), Variant("Irizar"));
+
+  auto declarant = Make("zerbal.cDeclarante");
+  const Variant code = Call(*declarant, "GuardarDeclarante", {PersonBuffer(0, "15210220C", "Ane")});
+  Args args{"1", "to be replaced"};  // the code as text converts as late binding does
+  declarant->Call("cargardeclarante", args);
+  ASSERT_TRUE(args[1].IsArray());
+  EXPECT_EQ(args[1](0), code);
+  EXPECT_EQ(args[1](1), Variant("15210220C"));
+  EXPECT_EQ(args[0], Variant("1")) << "an argument taken by value stays as it was";
+}
+
+TEST_F(BindingsTest, OptionalArgumentsLeftOutTakeTheirDefaults) {
+  auto declarant = Make("zerbal.cDeclarante");
+  auto declarations = Make("zerbal.cDeclaraciones");
+  const Variant kept = Call(*declarant, "GuardarDeclarante", {PersonBuffer(0, "A", "Kept")});
+  const Variant gone = Call(*declarant, "GuardarDeclarante", {PersonBuffer(0, "B", "Gone")});
+  Call(*declarations, "GuardarDeclaracion", {2001, "E", kept});
+  Call(*declarations, "GuardarDeclaracion", {2005, "P", gone});
+
+  EXPECT_EQ(Call(*declarations, "MaxEjerMon", {false})(0, 1), Variant("2005"));
+  EXPECT_EQ(Call(*declarations, "MaxEjerMon", {true})(0, 1), Variant("2001"))
+      << "without intEjerMin every euro year counts";
+  EXPECT_TRUE(Call(*declarations, "MaxEjerMon", {true, 1}).IsNull()) << "only from 2002";
+
+  Call(*declarant, "EliminarDeclarante", {kept});
+  Call(*declarant, "EliminarDeclarante", {gone, true});
+  EXPECT_EQ(test::Rows(mod_, "SELECT ejercicio FROM TDeclaraciones"), (Rows{{2001}}))
+      << "bDeclaraciones left out is False: the declarations stay";
+  EXPECT_EQ(test::Rows(mod_, "SELECT COUNT(*) FROM TDeclarante"), (Rows{{0}}));
+}
+
+TEST_F(BindingsTest, LateBindingErrors) {
+  const struct {
+    const char* progid;
+    const char* member;
+    Invocation kind;
+    Args args;
+    int32_t error;
+  } rows[] = {
+      {"zerbal.cDeclarante", "CargarDeclarante", Invocation::kMethod, {1}, 450},
+      {"zerbal.cDeclarante", "EliminarDeclarante", Invocation::kMethod, {1, true, 1}, 450},
+      {"zerbal.cDeclarante", "NifRepetido", Invocation::kMethod, {}, 450},
+      {"zerbal.cDeclaraciones", "MaxEjerMon", Invocation::kMethod, {"maybe"}, 13},
+      {"zerbal.cDeclaraciones", "MaxEjerMon", Invocation::kMethod, {true, 40000}, 6},
+      {"zerbal.cDeclaraciones", "ObtenerDeclaracion", Invocation::kMethod, {"x", 2014}, 13},
+      {"zerbal.cDeclarado", "SeImportanTodos", Invocation::kMethod, {40000}, 6},
+      {"zerbal.cDeclarado", "ObtenerDeclarados", Invocation::kMethod, {Variant::Null()}, 13},
+      {"zerbal.cArrendamiento", "CargarArrendamiento", Invocation::kMethod, {1.5e10}, 6},
+      {"zerbal.cPresentador", "Volar", Invocation::kMethod, {}, 438},
+      {"zerbal.cPresentador", "mdbmod", Invocation::kPropertyGet, {}, 438},
+      {"zerbal.cPresentador", "CargarPresentador", Invocation::kPropertyLet, {1}, 438},
+      {"zerbal.cConexionDAO", "mdb", Invocation::kPropertyLet, {"abc"}, 13},
+      {"zerbal.cConexionDAO", "Ddname", Invocation::kPropertyLet, {"a", "b"}, 450},
+      {"zerbal.cConexionDAO", "execute", Invocation::kMethod, {"DELETE FROM t", "x"}, 13},
+      {"zerbal.cConexionDAO", "openRecordset", Invocation::kMethod, {"SELECT 1"}, 13},
+  };
+  for (auto& row : rows) {
+    // Each error comes before the member runs: no database is needed.
+    auto object = CreateObject(row.progid);
+    Args args = row.args;
+    EXPECT_RAISES(object->Invoke(row.member, row.kind, args), row.error)
+        << row.progid << "." << row.member;
+  }
+  auto connection = CreateObject("zerbal.cConexionDAO");
+  Args none;
+  EXPECT_RAISES(connection->InvokeObject("Cerrar", Invocation::kMethod, none), 13)
+      << "Cerrar returns no object, and does not run: nothing is open to close";
+}
+
+TEST_F(BindingsTest, ErrorsOfTheLibraryComeOutUnchanged) {
+  const std::string nowhere = (dir_ / "missing.db").string();
+  cDeclaraciones declarations;
+  declarations.mdbmod(mod_);
+  cPresentador lost;
+  lost.mdbmod(nowhere);
+  const struct {
+    const char* progid;
+    std::string path;
+    const char* method;
+    Args args;
+    std::function<void()> direct;
+    int32_t error;
+  } rows[] = {
+      {"zerbal.cPresentador", nowhere, "CargarPresentador", {Variant()},
+       [&] { Variant b; lost.CargarPresentador(b); }, 3024},
+      {"zerbal.cPresentador", nowhere, "EliminarPresentador", {1},
+       [&] { lost.EliminarPresentador(1); }, 3024},
+      {"zerbal.cDeclaraciones", mod_, "ObtenerEjercicioDcion", {999},
+       [&] { declarations.ObtenerEjercicioDcion(999); }, 3021},
+  };
+  for (auto& row : rows) {
+    auto object = CreateObject(row.progid);
+    object->Let("mdbmod", row.path);
+    Args args = row.args;
+    const std::optional<Error> by_name = test::ErrorOf([&] { object->Call(row.method, args); });
+    const std::optional<Error> direct = test::ErrorOf(row.direct);
+    ASSERT_TRUE(by_name && direct) << row.method;
+    EXPECT_EQ(by_name->Number(), row.error) << row.method;
+    EXPECT_EQ(by_name->Number(), direct->Number()) << row.method;
+    EXPECT_EQ(by_name->Source(), direct->Source()) << row.method;
+    EXPECT_EQ(by_name->Description(), direct->Description()) << row.method;
+  }
+}
+
+TEST_F(BindingsTest, AConnectionCreatedByNameIsItsOwnAndReturnsRecordsets) {
+  auto presenter = Make("zerbal.cPresentador");
+  Call(*presenter, "GuardarPresentador", {PersonBuffer(0, "B1", "Uno")});  // leaves Conexion() open
+  auto connection = CreateObject("ZERBAL.CCONEXIONDAO");
+  EXPECT_RAISES(Call(*connection, "Cerrar", {}), errc::kObjectNotSet)
+      << "a new connection holds no database, whatever the shared one holds";
+  connection->Let("mdb", 0);
+  Call(*connection, "CrearWorkSpace", {});
+  Call(*connection, "AbrirBD", {mod_});
+  Call(*connection, "execute", {"INSERT INTO TPresentador (dni_cif, nombre) VALUES ('B2', 'Dos')"});
+
+  Args sql{"SELECT codpres, nombre FROM TPresentador ORDER BY codpres", 4};
+  std::unique_ptr<AutomationObject> rs =
+      connection->InvokeObject("openrecordset", Invocation::kMethod, sql);
+  ASSERT_NE(rs, nullptr);
+  EXPECT_EQ(rs->ClassName(), "Recordset");
+  EXPECT_EQ(rs->Get("RecordCount"), Variant(2));
+  EXPECT_EQ(rs->Get("FieldCount"), Variant(2));
+  Args by_name{"NOMBRE"}, by_position{int16_t{1}};
+  EXPECT_EQ(rs->Invoke("Fields", Invocation::kPropertyGet, by_name), Variant("Uno"));
+  Call(*rs, "MoveNext", {});
+  EXPECT_EQ(rs->Invoke("fields", Invocation::kMethod, by_position), Variant("Dos"));
+  EXPECT_EQ(rs->Get("EOF"), Variant(false));
+  Call(*rs, "MoveNext", {});
+  EXPECT_EQ(rs->Get("eof"), Variant(true));
+  EXPECT_RAISES(rs->Invoke("Fields", Invocation::kPropertyGet, by_name), errc::kNoCurrentRecord);
+  Call(*rs, "MoveFirst", {});
+  EXPECT_EQ(rs->Get("BOF"), Variant(false));
+  Args unknown{"nada"};
+  EXPECT_RAISES(rs->Invoke("Fields", Invocation::kPropertyGet, unknown), errc::kItemNotFound);
+
+  connection.reset();  // closes its database, and with it the recordset
+  EXPECT_RAISES(rs->Get("RecordCount"), errc::kObjectClosed);
+}
+
+}  // namespace
+}  // namespace zerbal
