@@ -42,7 +42,8 @@ json Describe(const AutomationObject& object) {
     members.push_back({{"name", m.name},
                        {"kind", kKinds[static_cast<int>(m.kind)]},
                        {"required", m.required},
-                       {"optional", m.optional}});
+                       {"optional", m.optional},
+                       {"object", m.returns_object}});
   }
   return members;
 }
@@ -66,19 +67,24 @@ AutomationObject& Session::Object(const json& request) {
   return *it->second;
 }
 
+json Session::Keep(std::unique_ptr<AutomationObject> object) {
+  const int64_t handle = next_handle_++;
+  objects_.emplace(handle, std::move(object));
+  return {{"type", "Object"}, {"handle", handle}};
+}
+
 json Session::Handle(const json& request) {
   const std::string op = Text(request, "op");
   json answer = {{"ok", true}};
   if (op == "create") {
-    auto object = CreateObject(Text(request, "class"));
-    answer["handle"] = next_handle_;
-    objects_.emplace(next_handle_++, std::move(object));
+    answer["handle"] = Keep(CreateObject(Text(request, "class")))["handle"];
   } else if (op == "let") {
     Object(request).Let(Text(request, "name"), FromJson(Field(request, "value")));
   } else if (op == "get" || op == "call") {
     std::vector<Variant> args = Arguments(request);
     const Invocation kind = op == "get" ? Invocation::kPropertyGet : Invocation::kMethod;
-    answer["result"] = ToJson(Object(request).Invoke(Text(request, "name"), kind, args));
+    Returned returned = Object(request).Dispatch(Text(request, "name"), kind, args);
+    answer["result"] = returned.object ? Keep(std::move(returned.object)) : ToJson(returned.value);
     json final_args = json::array();
     for (const Variant& arg : args) final_args.push_back(ToJson(arg));
     answer["args"] = std::move(final_args);

@@ -12,7 +12,13 @@
 //   {"op": "members", "handle": 1}                             -> "result"
 // V is a variant as json_variant.h writes it. A "call" answers with the
 // method's result and the final value of every argument, so arguments that
-// the method changes by reference come back changed.
+// the method changes by reference come back changed. A member that returns
+// an object (as a connection's openRecordset does) answers the result
+// {"type": "Object", "handle": N}: the object is kept under that new handle
+// until it is released, whatever happens to the object that made it. Such
+// a result is never an argument: a variant holds no object. "members" lists
+// each member's name, kind ("method", "get" or "let"), required and
+// optional argument counts, and whether it returns an object ("object").
 //
 // Answers: {"id": ..., "ok": true, ...} or {"id": ..., "ok": false, "error":
 // {"number": N, "source": S, "description": D}}. A request that is not JSON,
@@ -42,6 +48,8 @@ class Session {
  private:
   nlohmann::json Handle(const nlohmann::json& request);
   AutomationObject& Object(const nlohmann::json& request);
+  // Registers `object` under a new handle; answers {"type": "Object", "handle": N}.
+  nlohmann::json Keep(std::unique_ptr<AutomationObject> object);
 
   std::map<int64_t, std::unique_ptr<AutomationObject>> objects_;
   int64_t next_handle_ = 1;

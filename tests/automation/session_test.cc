@@ -2,6 +2,7 @@
 
 #include "automation/json_variant.h"
 #include "testutil.h"
+#include "zerbal/presentador.h"
 
 namespace zerbal::automation {
 namespace {
@@ -60,7 +61,7 @@ TEST(JsonVariantTest, PlainValuesAndBadVariants) {
   }
 }
 
-class SessionTest : public ::testing::Test {
+class SessionTest : public test::DatabaseTest {
  protected:
   json Ask(const std::string& request) {
     const std::string line = session_.Answer(request);
@@ -116,6 +117,70 @@ TEST_F(SessionTest, ErrorsAreAnsweredAndTheSessionGoesOn) {
   EXPECT_EQ(error["id"], json::array({1}));
   EXPECT_FALSE(error["error"]["source"].get<std::string>().empty());
   EXPECT_TRUE(Ask(R"({"op": "classes"})")["ok"]) << "still serving";
+}
+
+TEST_F(SessionTest, BuffersComeBackChangedAndLibraryErrorsUnchanged) {
+  Ask(R"({"op": "create", "class": "zerbal.cPresentador"})");
+  Ask(R"({"op": "let", "handle": 1, "name": "mdbmod", "value": )" + json(mod_).dump() + "}");
+  const json saved = Ask(
+      R"({"op": "call", "handle": 1, "name": "GuardarPresentador", "args": [{"type": "Array",
+      "bounds": [[0, 17]], "elements": [0, "B20456786", "Irizar", "CL", "Nagusia", 12, "", "",
+      "", "", 20, "20005", "Donostia", 943, "", "", 0, ""]}]})");
+  EXPECT_EQ(saved["result"], ToJson(Variant(1))) << saved.dump();
+
+  const json loaded =
+      Ask(R"({"op": "call", "handle": 1, "name": "cargarpresentador", "args": [null]})");
+  cPresentador direct;
+  direct.mdbmod(mod_);
+  Variant expected;
+  direct.CargarPresentador(expected);
+  EXPECT_EQ(loaded["args"][0], ToJson(expected));
+  EXPECT_EQ(loaded["args"][0]["elements"][2], ToJson(Variant("Irizar")));
+  EXPECT_EQ(loaded["result"], ToJson(Variant()));
+
+  Ask(R"({"op": "let", "handle": 1, "name": "mdbmod", "value": )" +
+      json((dir_ / "missing.db").string()).dump() + "}");
+  direct.mdbmod((dir_ / "missing.db").string());
+  const std::optional<Error> error = test::ErrorOf([&] { direct.EliminarPresentador(1); });
+  ASSERT_TRUE(error);
+  const json failed =
+      Ask(R"({"op": "call", "handle": 1, "name": "EliminarPresentador", "args": [1]})");
+  EXPECT_EQ(failed["error"], json({{"number", error->Number()},
+                                   {"source", error->Source()},
+                                   {"description", error->Description()}}));
+  EXPECT_EQ(error->Number(), 3024);
+}
+
+TEST_F(SessionTest, AnObjectResultGetsAHandleOfItsOwn) {
+  Ask(R"({"op": "create", "class": "zerbal.cConexionDAO"})");
+  Ask(R"({"op": "let", "handle": 1, "name": "mdb", "value": 0})");
+  Ask(R"({"op": "call", "handle": 1, "name": "CrearWorkSpace"})");
+  Ask(R"({"op": "call", "handle": 1, "name": "AbrirBD", "args": [)" + json(mod_).dump() + "]}");
+  Ask(R"j({"op": "call", "handle": 1, "name": "execute",
+          "args": ["INSERT INTO TPresentador (nombre) VALUES ('Irizar')"]})j");
+  const json opened = Ask(R"({"op": "call", "handle": 1, "name": "openRecordset",
+                               "args": ["SELECT nombre FROM TPresentador"]})");
+  EXPECT_EQ(opened["result"], json({{"type", "Object"}, {"handle", 2}})) << opened.dump();
+  EXPECT_EQ(Ask(R"({"op": "get", "handle": 2, "name": "RecordCount"})")["result"],
+            ToJson(Variant(1)));
+  EXPECT_EQ(Ask(R"({"op": "get", "handle": 2, "name": "Fields", "args": ["NOMBRE"]})")["result"],
+            ToJson(Variant("Irizar")));
+
+  json listed;
+  const json members = Ask(R"({"op": "members", "handle": 1})");
+  for (const json& m : members["result"]) {
+    if (m["name"] == "openRecordset") listed = m;
+  }
+  EXPECT_EQ(listed, json({{"name", "openRecordset"}, {"kind", "method"}, {"required", 1},
+                          {"optional", 1}, {"object", true}}));
+  EXPECT_EQ(ErrorNumber(Ask(R"({"op": "call", "handle": 1, "name": "execute",
+                                "args": [{"type": "Object", "handle": 2}]})")), 5)
+      << "an object is never an argument";
+
+  EXPECT_TRUE(Ask(R"({"op": "release", "handle": 1})")["ok"]);
+  EXPECT_EQ(ErrorNumber(Ask(R"({"op": "get", "handle": 2, "name": "RecordCount"})")), 3420)
+      << "the recordset is still there, closed with its connection";
+  EXPECT_TRUE(Ask(R"({"op": "release", "handle": 2})")["ok"]);
 }
 
 }  // namespace
