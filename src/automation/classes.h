@@ -19,6 +19,8 @@ inline constexpr std::string_view kDeclaracionesProgId = "zerbal.cDeclaraciones"
 inline constexpr std::string_view kDeclaradoProgId = "zerbal.cDeclarado";
 inline constexpr std::string_view kArrendamientoProgId = "zerbal.cArrendamiento";
 inline constexpr std::string_view kPresentadorProgId = "zerbal.cPresentador";
+inline constexpr std::string_view kExportacionProgId = "zerbal.cExportacion";
+inline constexpr std::string_view kTImpExpProgId = "zerbal.cTImpExp";
 
 std::unique_ptr<AutomationObject> NewMiscelaneos();
 std::unique_ptr<AutomationObject> NewConexionDAO();
@@ -27,6 +29,8 @@ std::unique_ptr<AutomationObject> NewDeclaraciones();
 std::unique_ptr<AutomationObject> NewDeclarado();
 std::unique_ptr<AutomationObject> NewArrendamiento();
 std::unique_ptr<AutomationObject> NewPresentador();
+std::unique_ptr<AutomationObject> NewExportacion();
+std::unique_ptr<AutomationObject> NewTImpExp();
 
 // A recordset as an object (class name "Recordset"): what openRecordset
 // returns.

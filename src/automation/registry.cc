@@ -23,6 +23,8 @@ constexpr ClassEntry kClasses[] = {
     {automation::kDeclaradoProgId, automation::NewDeclarado},
     {automation::kArrendamientoProgId, automation::NewArrendamiento},
     {automation::kPresentadorProgId, automation::NewPresentador},
+    {automation::kExportacionProgId, automation::NewExportacion},
+    {automation::kTImpExpProgId, automation::NewTImpExp},
 };
 
 }  // namespace

@@ -4,6 +4,7 @@ list(APPEND ZERBAL_SOURCES
   fileformat/export2011.cc
   fileformat/export2014.cc
   fileformat/exportacion.cc
+  fileformat/exportacion_binding.cc
   fileformat/layout.cc
   fileformat/linea_dte.cc
   fileformat/seleccion.cc

@@ -150,7 +150,9 @@ TEST_F(ExportYearTest, TheCommandReadsItsOptions) {
   for (const auto& row : rows) {
     std::ostringstream ignored_out, err;
     EXPECT_EQ(RunExport(row.args, ignored_out, err), row.status) << err.str();
-    if (row.status == 1) EXPECT_NE(err.str().find("zerbal: "), std::string::npos);
+    if (row.status == 1) {
+      EXPECT_NE(err.str().find("zerbal: "), std::string::npos);
+    }
   }
 }
 
