@@ -19,6 +19,7 @@ inline constexpr std::string_view kDeclaracionesProgId = "zerbal.cDeclaraciones"
 inline constexpr std::string_view kDeclaradoProgId = "zerbal.cDeclarado";
 inline constexpr std::string_view kArrendamientoProgId = "zerbal.cArrendamiento";
 inline constexpr std::string_view kPresentadorProgId = "zerbal.cPresentador";
+inline constexpr std::string_view kDatosGeneralesProgId = "zerbal.cDatosGenerales";
 inline constexpr std::string_view kExportacionProgId = "zerbal.cExportacion";
 inline constexpr std::string_view kTImpExpProgId = "zerbal.cTImpExp";
 
@@ -29,6 +30,7 @@ std::unique_ptr<AutomationObject> NewDeclaraciones();
 std::unique_ptr<AutomationObject> NewDeclarado();
 std::unique_ptr<AutomationObject> NewArrendamiento();
 std::unique_ptr<AutomationObject> NewPresentador();
+std::unique_ptr<AutomationObject> NewDatosGenerales();
 std::unique_ptr<AutomationObject> NewExportacion();
 std::unique_ptr<AutomationObject> NewTImpExp();
 

@@ -23,6 +23,7 @@ constexpr ClassEntry kClasses[] = {
     {automation::kDeclaradoProgId, automation::NewDeclarado},
     {automation::kArrendamientoProgId, automation::NewArrendamiento},
     {automation::kPresentadorProgId, automation::NewPresentador},
+    {automation::kDatosGeneralesProgId, automation::NewDatosGenerales},
     {automation::kExportacionProgId, automation::NewExportacion},
     {automation::kTImpExpProgId, automation::NewTImpExp},
 };

@@ -17,7 +17,9 @@ namespace fs = std::filesystem;
 
 // The scripts that build each database, in order.
 const std::vector<std::string_view> kDataScripts = {"data_schema.sql"};
-const std::vector<std::string_view> kLookupScripts = {"lookup_schema.sql"};
+const std::vector<std::string_view> kLookupScripts = {
+    "lookup_schema.sql",    "lookup_operaciones.sql", "lookup_provincias.sql",
+    "lookup_siglas_via.sql", "lookup_paises.sql",      "lookup_general.sql"};
 
 fs::path WithSuffix(const fs::path& path, std::string_view suffix) {
   return fs::path(path.string() + std::string(suffix));

@@ -17,4 +17,9 @@ list(APPEND ZERBAL_SOURCES
 list(APPEND ZERBAL_RESOURCES
   data_schema.sql=${PROJECT_SOURCE_DIR}/resources/data_schema.sql
   lookup_schema.sql=${PROJECT_SOURCE_DIR}/resources/lookup_schema.sql
+  lookup_operaciones.sql=${PROJECT_SOURCE_DIR}/resources/lookup_operaciones.sql
+  lookup_provincias.sql=${PROJECT_SOURCE_DIR}/resources/lookup_provincias.sql
+  lookup_siglas_via.sql=${PROJECT_SOURCE_DIR}/resources/lookup_siglas_via.sql
+  lookup_paises.sql=${PROJECT_SOURCE_DIR}/resources/lookup_paises.sql
+  lookup_general.sql=${PROJECT_SOURCE_DIR}/resources/lookup_general.sql
 )

@@ -1,0 +1,27 @@
+-- Street types by the codes of the tax agencies' files, in Spanish (CAS) and
+-- Basque (EUS).
+INSERT INTO TSIGLASVIA (codigo, CAS, EUS) VALUES
+  ('AL', 'Alameda', 'Zumardia'),
+  ('AV', 'Avenida', 'Etorbidea'),
+  ('BJ', 'Bajada', 'Jaitsiera'),
+  ('BO', 'Barrio', 'Auzoa'),
+  ('CJ', 'Callejón', 'Kalexka'),
+  ('CL', 'Calle', 'Kalea'),
+  ('CM', 'Camino', 'Bidea'),
+  ('CR', 'Carretera', 'Errepidea'),
+  ('CS', 'Caserío', 'Baserria'),
+  ('CT', 'Cuesta', 'Aldapa'),
+  ('ED', 'Edificio', 'Eraikina'),
+  ('GL', 'Glorieta', 'Biribilgunea'),
+  ('LG', 'Lugar', 'Lekua'),
+  ('MC', 'Muelle', 'Kaia'),
+  ('PJ', 'Pasaje', 'Pasabidea'),
+  ('PL', 'Polígono', 'Poligonoa'),
+  ('PQ', 'Parque', 'Parkea'),
+  ('PS', 'Paseo', 'Pasealekua'),
+  ('PZ', 'Plaza', 'Plaza'),
+  ('RB', 'Rambla', 'Rambla'),
+  ('RD', 'Ronda', 'Errondea'),
+  ('SD', 'Senda', 'Bidezidorra'),
+  ('TR', 'Travesía', 'Zeharbidea'),
+  ('UR', 'Urbanización', 'Urbanizazioa');
