@@ -114,27 +114,6 @@ TEST_F(DeclaracionesTest, MaxEjerMonChoosesItsQuery) {
   EXPECT_EQ(declaraciones_.MaxEjerMon(true, 2010)(0, 1), Variant("2002"));
 }
 
-TEST_F(DeclaracionesTest, TotalsPerKeyForOneOrSeveralDeclarants) {
-  const int32_t first = declaraciones_.GuardarDeclaracion(2014, "E", 1);
-  const int32_t second = declaraciones_.GuardarDeclaracion(2014, "E", 2);
-  declaraciones_.GuardarDeclaracion(2013, "E", 2);
-  test::Exec(mod_, "INSERT INTO TDeclarante (dni_cifd) VALUES ('a')");
-  test::Exec(mod_, "INSERT INTO TDeclarante (dni_cifd) VALUES ('b')");
-  AddOperation(first, "A", 100);
-  AddOperation(first, "A", -30);
-  AddOperation(second, "B", 5);
-  AddOperation(3, "B", 7);
-  EXPECT_EQ(DebugString(declaraciones_.ObtenerTotalDeclarados(first)),
-            "(0 to 3, 0 to 1) {[Empty, Empty, Empty, Empty]; [\"A\", \"70\", \"2\", Empty]}");
-  EXPECT_TRUE(declaraciones_.ObtenerTotalDeclarados(99).IsNull());
-  Variant both(Array(0, 1));
-  both(0) = 1;
-  both(1) = "2";
-  const Variant totals = declaraciones_.ObtenerTotalDeclaradosVarDtes(both, 2014);
-  EXPECT_EQ(totals.AsArray().UBound(2), 2);
-  EXPECT_EQ(totals(1, 2), Variant("5")) << "the 2013 declaration is left out";
-}
-
 TEST_F(DeclaracionesTest, UnknownCodesAndBrokenDatabasesGiveTheirPrefixes) {
   const struct {
     std::function<void()> call;
