@@ -8,7 +8,7 @@
 
 #include "base/convert.h"
 #include "base/raise.h"
-#include "data/jet_like.h"
+#include "data/like_pattern.h"
 
 namespace zerbal::data {
 namespace {
@@ -31,7 +31,7 @@ void LikeFunction(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
     return std::string_view(p ? p : "", static_cast<size_t>(sqlite3_value_bytes(v)));
   };
   // The engine calls like(pattern, value) for "value LIKE pattern".
-  sqlite3_result_int(ctx, JetLike(text(argv[1]), text(argv[0])) ? 1 : 0);
+  sqlite3_result_int(ctx, LikePattern(text(argv[1]), text(argv[0])) ? 1 : 0);
 }
 
 int64_t QueryInt(sqlite3* db, const char* sql) {

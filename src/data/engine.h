@@ -17,7 +17,7 @@
 #include <string>
 #include <string_view>
 
-#include "data/jet_sql.h"
+#include "data/dialect.h"
 #include "data/sqlite.h"
 
 namespace zerbal::data {
@@ -46,7 +46,7 @@ class EngineConnection {
   sqlite3* db() const { return handle_.get(); }
   const std::string& path() const { return path_; }
 
-  // The statement in the engine's own SQL (see jet_sql.h).
+  // The statement in the engine's own SQL (see dialect.h).
   std::string Translate(std::string_view sql) const;
 
   // Whether this connection still stands for what is at its path.

@@ -5,9 +5,9 @@ list(APPEND ZERBAL_SOURCES
   data/conexion_dao_binding.cc
   data/database.cc
   data/databases.cc
+  data/dialect.cc
   data/engine.cc
-  data/jet_like.cc
-  data/jet_sql.cc
+  data/like_pattern.cc
   data/queries.cc
   data/recordset.cc
   data/recordset_binding.cc

@@ -54,7 +54,7 @@ void PersonaRow::Let(PersonaSlot slot, const Variant& value) {
   }
   std::string text = CStr(value);
   if (rule != Rule::kUnchanged && text.empty()) {
-    text = " ";
+    text.assign(1, ' ');
   } else if (rule == Rule::kBlankProtected) {
     text = General::SustituirComilla(text);
   }

@@ -1,4 +1,4 @@
-#include "data/jet_sql.h"
+#include "data/dialect.h"
 
 #include <cctype>
 #include <vector>

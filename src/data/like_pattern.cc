@@ -1,4 +1,4 @@
-#include "data/jet_like.h"
+#include "data/like_pattern.h"
 
 #include <vector>
 
@@ -70,7 +70,7 @@ bool MatchOne(const std::u32string& pat, size_t* p, char32_t c) {
 
 // Greedy matching with one back-tracking point at the last "*", the usual
 // linear-space method: "*" never needs more than one resume position.
-bool JetLike(std::string_view text, std::string_view pattern) {
+bool LikePattern(std::string_view text, std::string_view pattern) {
   const std::u32string s = Folded(text);
   const std::u32string pat = Folded(pattern);
   size_t i = 0;

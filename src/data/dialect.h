@@ -11,8 +11,8 @@
 // Everything else passes through unchanged; text between apostrophes is
 // never touched.
 
-#ifndef ZERBAL_DATA_JET_SQL_H_
-#define ZERBAL_DATA_JET_SQL_H_
+#ifndef ZERBAL_DATA_DIALECT_H_
+#define ZERBAL_DATA_DIALECT_H_
 
 #include <set>
 #include <string>
@@ -28,4 +28,4 @@ std::string TranslateSql(std::string_view sql, const IndexedTextColumns& indexed
 
 }  // namespace zerbal::data
 
-#endif  // ZERBAL_DATA_JET_SQL_H_
+#endif  // ZERBAL_DATA_DIALECT_H_
