@@ -3,11 +3,18 @@
 -- (TSiglasPais, from 2008). One row for each code of the country table that
 -- converts between the two (src/reference/country_codes.cc), in its order.
 --
--- Codes that are not ISO 3166 countries: XN stands for international
--- organisations, OP for countries or territories not specified, and XG is
--- the tax administration's own code, named by its letters. AN (Netherlands
--- Antilles) and CS (Serbia and Montenegro) are withdrawn codes that old
--- declarations still carry.
+-- That table runs in the alphabetical order of the tax agency's Spanish names
+-- (US as EE.UU. before Ecuador, FM as Federación de Micronesia, KH as
+-- Kampuchea, CD as Zaire at the end with PS and OP added after it), and its
+-- position names the codes that are not ISO 3166 countries:
+--   XN (921), between Omán and Países Bajos: international organisations.
+--   XG (118), right after Luxemburgo (108) and before Macao: Luxembourg's
+--     holding companies, which the tax-haven list of 1991 named apart from
+--     the rest of Luxembourg.
+--   OP (958), added at the end: other countries or territories not listed.
+--   AN (478), Netherlands Antilles, and CS (94), Serbia and Montenegro, are
+--     withdrawn codes that old declarations still carry.
+-- Basque names as Euskaltzaindia writes them.
 
 INSERT INTO TPaises (codigo, PAISCAS, PAISEUS) VALUES
   (660, 'Afganistán', 'Afganistan'),
@@ -132,7 +139,7 @@ INSERT INTO TPaises (codigo, PAISCAS, PAISEUS) VALUES
   (37, 'Liechtenstein', 'Liechtenstein'),
   (55, 'Lituania', 'Lituania'),
   (108, 'Luxemburgo', 'Luxenburgo'),
-  (118, 'Territorio XG (código propio de la administración tributaria)', 'XG lurraldea (zerga administrazioaren kode propioa)'),
+  (118, 'Luxemburgo (sociedades holding)', 'Luxenburgo (holding-sozietateak)'),
   (743, 'Macao', 'Macao'),
   (370, 'Madagascar', 'Madagaskar'),
   (701, 'Malasia', 'Malaysia'),
@@ -356,7 +363,7 @@ INSERT INTO TSiglasPais (SIGLASPAIS, PAIS, paiseus) VALUES
   ('LI', 'Liechtenstein', 'Liechtenstein'),
   ('LT', 'Lituania', 'Lituania'),
   ('LU', 'Luxemburgo', 'Luxenburgo'),
-  ('XG', 'Territorio XG (código propio de la administración tributaria)', 'XG lurraldea (zerga administrazioaren kode propioa)'),
+  ('XG', 'Luxemburgo (sociedades holding)', 'Luxenburgo (holding-sozietateak)'),
   ('MO', 'Macao', 'Macao'),
   ('MG', 'Madagascar', 'Madagaskar'),
   ('MY', 'Malasia', 'Malaysia'),

@@ -25,7 +25,7 @@ INSERT INTO TPROVINCIAS (PRO_ID, PRO_CAS, PRO_EUS) VALUES
   ('21', 'Huelva', 'Huelva'),
   ('22', 'Huesca', 'Huesca'),
   ('23', 'Jaén', 'Jaen'),
-  ('24', 'León', 'León'),
+  ('24', 'León', 'Leon'),
   ('25', 'Lleida', 'Lleida'),
   ('26', 'La Rioja', 'Errioxa'),
   ('27', 'Lugo', 'Lugo'),
