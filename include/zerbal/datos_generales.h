@@ -34,7 +34,7 @@ class cDatosGenerales : public PathProperties {
   Variant CargarResultado(const std::string& strCadena);
 
   // Single-code lookups: the description in upper case, "" for an unknown
-  // code. A country code above 32,767 raises 6.
+  // code. A country code outside 16 bits (-32,768 to 32,767) raises 6.
   std::string ObtenerDescriVia(const std::string& strCod, int32_t lngIdioma);
   std::string ObtenerNombreProvincia(const std::string& strCod, int32_t lngIdioma);
   // strMoneda does not change the result.

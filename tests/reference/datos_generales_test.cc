@@ -20,28 +20,45 @@ TEST_F(DatosGeneralesTest, DescriptionsInEitherLanguageUpperCased) {
     int32_t idioma;
     const char* provincia;
     const char* via;
+    const char* clave;
     const char* pais;
     const char* intra;
   } rows[] = {
-      {0, "GIPUZKOA", "CALLE", "ALEMANIA", "FRANCIA"},
-      {1, "GIPUZKOA", "KALEA", "ALEMANIA", "FRANTZIA"},
-      {2, "GIPUZKOA", "KALEA", "ALEMANIA", "FRANTZIA"},
+      {0, "ÁLAVA", "CALLE", "VENTAS DE AGENCIAS DE VIAJES", "REINO UNIDO", "FRANCIA"},
+      {1, "ARABA", "KALEA", "BIDAIA-AGENTZIEN SALMENTAK", "ERRESUMA BATUA", "FRANTZIA"},
+      {2, "ARABA", "KALEA", "BIDAIA-AGENTZIEN SALMENTAK", "ERRESUMA BATUA", "FRANTZIA"},
+      {-1, "ARABA", "KALEA", "BIDAIA-AGENTZIEN SALMENTAK", "ERRESUMA BATUA", "FRANTZIA"},
   };
   for (const auto& row : rows) {
-    EXPECT_EQ(datos_.ObtenerNombreProvincia("20", row.idioma), row.provincia) << row.idioma;
+    EXPECT_EQ(datos_.ObtenerNombreProvincia("01", row.idioma), row.provincia) << row.idioma;
     EXPECT_EQ(datos_.ObtenerDescriVia("CL", row.idioma), row.via) << row.idioma;
-    EXPECT_EQ(datos_.ObtenerDesPais(4, row.idioma), row.pais) << row.idioma;
+    EXPECT_EQ(datos_.ObtenerDesClave("F", "E", row.idioma), row.clave) << row.idioma;
+    EXPECT_EQ(datos_.ObtenerDesPais(890, row.idioma), row.pais) << row.idioma;
     EXPECT_EQ(datos_.ObtenerNombrePaisIntra("FR", row.idioma), row.intra) << row.idioma;
   }
-  EXPECT_EQ(datos_.ObtenerNombreProvincia("01", 0), "ÁLAVA");
-  EXPECT_EQ(datos_.ObtenerNombreProvincia("01", 1), "ARABA");
-  EXPECT_EQ(datos_.ObtenerNombreProvincia("99", 0), "") << "an unknown code is no error";
-  EXPECT_EQ(datos_.ObtenerNombrePaisIntra("ZZ", 1), "");
-  EXPECT_EQ(datos_.ObtenerDesPais(999, 0), "");
-  EXPECT_RAISES(datos_.ObtenerDesPais(40000, 0), errc::kOverflow) << "the code is 16-bit";
-  EXPECT_EQ(datos_.ObtenerDesClave("F", "E", 1), "BIDAIA-AGENTZIEN SALMENTAK");
   EXPECT_EQ(datos_.ObtenerDesClave("F", "P", 1), datos_.ObtenerDesClave("F", "E", 1))
       << "the currency changes nothing";
+}
+
+TEST_F(DatosGeneralesTest, UnknownCodesAndTheSixteenBitCountryCode) {
+  EXPECT_EQ(datos_.ObtenerNombreProvincia("99", 0), "") << "an unknown code is no error";
+  EXPECT_EQ(datos_.ObtenerDescriVia("", 1), "");
+  EXPECT_EQ(datos_.ObtenerDesClave("H", "E", 0), "");
+  EXPECT_EQ(datos_.ObtenerNombrePaisIntra("ZZ", 1), "");
+  EXPECT_EQ(datos_.ObtenerDesPais(999, 0), "");
+  EXPECT_EQ(datos_.ObtenerDesPais(4, 1), "ALEMANIA") << "codes are numbers, not texts";
+
+  const struct {
+    int32_t codigo;
+    bool overflows;
+  } codes[] = {{32767, false}, {-32768, false}, {32768, true}, {-32769, true}, {958 + 65536, true}};
+  for (const auto& row : codes) {
+    if (row.overflows) {
+      EXPECT_RAISES(datos_.ObtenerDesPais(row.codigo, 0), errc::kOverflow) << row.codigo;
+    } else {
+      EXPECT_EQ(datos_.ObtenerDesPais(row.codigo, 0), "") << row.codigo;
+    }
+  }
 }
 
 TEST_F(DatosGeneralesTest, StoredCaseAndNullsOfTheLookupDatabase) {

@@ -1,6 +1,7 @@
 // The reference data shipped in the lookup database agree with the country
 // table of the conversions and are complete in both languages.
 
+#include <cctype>
 #include <map>
 #include <set>
 
@@ -56,7 +57,12 @@ TEST_F(LookupDataTest, ProvincesKeysStreetTypesAndAddresses) {
   const auto keys = Table("SELECT codigo, descripcionc, descripcione FROM TOperaciones");
   EXPECT_EQ(keys.size(), 7u);
   for (const char* key : {"A", "B", "C", "D", "E", "F", "G"}) EXPECT_TRUE(keys.count(key)) << key;
-  EXPECT_GE(Table("SELECT codigo, CAS, EUS FROM TSIGLASVIA").size(), 20u);
+  const auto street_types = Table("SELECT codigo, CAS, EUS FROM TSIGLASVIA");
+  EXPECT_GE(street_types.size(), 20u);
+  for (const auto& [code, names] : street_types) {
+    // The files carry the street type in two positions.
+    EXPECT_TRUE(code.size() == 2 && std::isupper(code[0]) && std::isupper(code[1])) << code;
+  }
   EXPECT_GE(Table("SELECT URLAct, Descripcion, Descripcion FROM tgeneral").size(), 2u);
 }
 
