@@ -1,6 +1,5 @@
 #include "fileformat/export2008.h"
 
-#include "fileformat/layout_reg1.h"
 #include "fileformat/layout_reg2.h"
 #include "fileformat/layout_reg3.h"
 #include "fileformat/writers.h"
@@ -8,13 +7,6 @@
 namespace zerbal::Export2008 {
 
 using namespace fileformat;
-
-// Record 1 did not change from 2007 to 2010.
-std::string GenerarReg1(const Variant& vBufferDeclarante, const Variant& TablaTotales,
-                        const std::string& strMoneda, int32_t lngEjercicio) {
-  return WriteDeclarantRecord(kReg1_2007, vBufferDeclarante, TablaTotales, strMoneda,
-                              lngEjercicio);
-}
 
 std::string GenerarReg2(int32_t lngEjercicio, const Variant& vBufferDeclarado,
                         const Variant& vBufferDeclarante, const std::string& strMoneda) {

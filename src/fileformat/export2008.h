@@ -13,12 +13,14 @@
 #include <cstdint>
 #include <string>
 
+#include "fileformat/export2007.h"
 #include "zerbal/variant.h"
 
 namespace zerbal::Export2008 {
 
-std::string GenerarReg1(const Variant& vBufferDeclarante, const Variant& TablaTotales,
-                        const std::string& strMoneda, int32_t lngEjercicio);
+// Record 1 did not change from 2007 to 2010.
+using Export2007::GenerarReg1;
+
 std::string GenerarReg2(int32_t lngEjercicio, const Variant& vBufferDeclarado,
                         const Variant& vBufferDeclarante, const std::string& strMoneda);
 Variant GenerarReg3(int32_t lngEjercicio, const Variant& vBufferArrendamiento,
