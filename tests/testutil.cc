@@ -26,6 +26,17 @@ DatabaseTest::DatabaseTest() {
   lec_ = paths.lookup.string();
 }
 
+Variant Buffer(const std::vector<Variant>& values, int extra) {
+  Variant b(Array(0, static_cast<int32_t>(values.size()) - 1 + extra));
+  for (size_t i = 0; i < values.size(); ++i) b(static_cast<int32_t>(i)) = values[i];
+  return b;
+}
+
+Variant PersonBuffer(int32_t code, const std::string& nif, const std::string& name) {
+  return Buffer({code, nif, name, "CL", "Kale Nagusia", 12, "", "B", "3", "izq", 20, "20005",
+                 "Donostia", 943, "", "Ane", 0, "654321"});
+}
+
 std::optional<Error> ErrorOf(const std::function<void()>& body) {
   try {
     body();

@@ -41,6 +41,14 @@ class DatabaseTest : public ::testing::Test {
   std::string lec_;  // the lookup database
 };
 
+// A one-dimensional buffer 0 to values.size() - 1 + extra, as a record class
+// takes or gives it.
+Variant Buffer(const std::vector<Variant>& values, int extra = 0);
+
+// A declarant's or presenter's buffer (0 to 17): these code, NIF and name,
+// and an address in Donostia (postal code 20005, empty letter and telephone).
+Variant PersonBuffer(int32_t code, const std::string& nif, const std::string& name);
+
 // The error that `body` raises, if any.
 std::optional<Error> ErrorOf(const std::function<void()>& body);
 

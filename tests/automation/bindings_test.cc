@@ -13,14 +13,6 @@ namespace {
 using Args = std::vector<Variant>;
 using Rows = std::vector<std::vector<Variant>>;
 
-Variant PersonBuffer(int32_t code, const std::string& nif, const std::string& name) {
-  Variant b(Array(0, 17));
-  const Variant values[] = {code, nif, name, "CL", "Kale Nagusia", 12, "", "B", "3", "izq",
-                            20,   "20005", "Donostia", 943, "", "Ane", 0, "654321"};
-  for (int32_t i = 0; i <= 17; ++i) b(i) = values[i];
-  return b;
-}
-
 class BindingsTest : public test::DatabaseTest {
  protected:
   // A new object of `progid` with both paths set.
@@ -37,7 +29,7 @@ class BindingsTest : public test::DatabaseTest {
 
 TEST_F(BindingsTest, BuffersTakenByReferenceComeBackInTheArguments) {
   auto presenter = Make("zerbal.cPresentador");
-  EXPECT_EQ(Call(*presenter, "GuardarPresentador", {PersonBuffer(0, "B20456786", "Irizar")}),
+  EXPECT_EQ(Call(*presenter, "GuardarPresentador", {test::PersonBuffer(0, "B20456786", "Irizar")}),
             Variant(1));
   Args load{Variant()};
   EXPECT_TRUE(presenter->Call("CargarPresentador", load).IsEmpty()) << "a procedure gives Empty";
@@ -49,7 +41,7 @@ TEST_F(BindingsTest, BuffersTakenByReferenceComeBackInTheArguments) {
   EXPECT_EQ(load[0](2), Variant("Irizar"));
 
   auto declarant = Make("zerbal.cDeclarante");
-  const Variant code = Call(*declarant, "GuardarDeclarante", {PersonBuffer(0, "15210220C", "Ane")});
+  const Variant code = Call(*declarant, "GuardarDeclarante", {test::PersonBuffer(0, "15210220C", "Ane")});
   Args args{"1", "to be replaced"};  // the code as text converts as late binding does
   declarant->Call("cargardeclarante", args);
   ASSERT_TRUE(args[1].IsArray());
@@ -61,8 +53,8 @@ TEST_F(BindingsTest, BuffersTakenByReferenceComeBackInTheArguments) {
 TEST_F(BindingsTest, OptionalArgumentsLeftOutTakeTheirDefaults) {
   auto declarant = Make("zerbal.cDeclarante");
   auto declarations = Make("zerbal.cDeclaraciones");
-  const Variant kept = Call(*declarant, "GuardarDeclarante", {PersonBuffer(0, "A", "Kept")});
-  const Variant gone = Call(*declarant, "GuardarDeclarante", {PersonBuffer(0, "B", "Gone")});
+  const Variant kept = Call(*declarant, "GuardarDeclarante", {test::PersonBuffer(0, "A", "Kept")});
+  const Variant gone = Call(*declarant, "GuardarDeclarante", {test::PersonBuffer(0, "B", "Gone")});
   Call(*declarations, "GuardarDeclaracion", {2001, "E", kept});
   Call(*declarations, "GuardarDeclaracion", {2005, "P", gone});
 
@@ -153,7 +145,7 @@ TEST_F(BindingsTest, ErrorsOfTheLibraryComeOutUnchanged) {
 
 TEST_F(BindingsTest, AConnectionCreatedByNameIsItsOwnAndReturnsRecordsets) {
   auto presenter = Make("zerbal.cPresentador");
-  Call(*presenter, "GuardarPresentador", {PersonBuffer(0, "B1", "Uno")});  // leaves Conexion() open
+  Call(*presenter, "GuardarPresentador", {test::PersonBuffer(0, "B1", "Uno")});  // leaves Conexion() open
   auto connection = CreateObject("ZERBAL.CCONEXIONDAO");
   EXPECT_RAISES(Call(*connection, "Cerrar", {}), errc::kObjectNotSet)
       << "a new connection holds no database, whatever the shared one holds";

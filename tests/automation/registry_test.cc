@@ -40,20 +40,5 @@ TEST(RegistryTest, TheValidationComponentAnswersByName) {
   }
 }
 
-TEST(RegistryTest, LateBindingErrors) {
-  auto component = CreateObject("Brevandol.cMiscelaneos");
-  EXPECT_RAISES(CallWith(*component, "ValidaNif", {"x"}), errc::kMemberNotFound);
-  EXPECT_RAISES(CallWith(*component, "ValidaNifCif", {}), errc::kWrongArgumentCount);
-  EXPECT_RAISES(CallWith(*component, "ValidaNifCif", {"x", true, 1}), errc::kWrongArgumentCount);
-  EXPECT_RAISES(CallWith(*component, "ValidarForeignNIf", {"x"}), errc::kWrongArgumentCount);
-  EXPECT_RAISES(CallWith(*component, "ValidaNifCif", {"x", "maybe"}), errc::kTypeMismatch);
-  EXPECT_RAISES(CallWith(*component, "ValidaNifCif", {Variant::Null()}), errc::kTypeMismatch);
-  EXPECT_RAISES(component->Let("ValidaNifCif", true), errc::kMemberNotFound);
-  EXPECT_RAISES(component->Get("ValidaNifCif"), errc::kWrongArgumentCount)
-      << "read as a property, the method is called, and it needs its argument";
-  ASSERT_EQ(component->Members().size(), 2u);
-  EXPECT_EQ(component->Members()[1].name, "ValidarForeignNIf");
-}
-
 }  // namespace
 }  // namespace zerbal

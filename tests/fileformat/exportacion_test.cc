@@ -38,12 +38,6 @@ class ExportacionTest : public test::DatabaseTest {
         {0, declaration, 20, "", "X2482300W", "Jan", 500.0, "Eibar", "R", "CL", "Easo", 3, "",
          "", "", 20}));
   }
-  static Variant Codes(std::initializer_list<int32_t> codes) {
-    Variant list(Array(0, static_cast<int32_t>(codes.size()) - 1));
-    int32_t i = 0;
-    for (int32_t c : codes) list(i++) = c;
-    return list;
-  }
   static std::string Slurp(const std::filesystem::path& path) {
     std::ifstream in(path, std::ios::binary);
     std::stringstream text;
@@ -67,7 +61,7 @@ TEST_F(ExportacionTest, RecordsOfOneDeclarantAndTheRunningCount) {
   exportacion_.Ejercicio(2014);
   exportacion_.Moneda("E");
   exportacion_.NoTotalDeclArren(5);
-  const Variant codes = Codes({dte});
+  const Variant codes = test::Buffer({dte});
   const std::string reg1 = exportacion_.ExportarReg1(codes, 0);
   EXPECT_EQ(Len(reg1), 500);
   EXPECT_EQ(exportacion_.Declaracion(), std::to_string(declaration));
@@ -102,10 +96,10 @@ TEST_F(ExportacionTest, RecordOneFailsQuietly) {
   cExportacion lost;
   lost.mdbmod((dir_ / "gone.db").string());
   lost.Ejercicio(2014);
-  EXPECT_EQ(lost.ExportarReg1(Codes({1}), 0), "");
-  EXPECT_EQ(exportacion_.ExportarReg1(Codes({1}), 0), "") << "a declarant that does not exist";
-  EXPECT_EQ(exportacion_.ExportarReg1(Codes({1}), 4), "") << "an index outside the list";
-  EXPECT_RAISES(exportacion_.ExportarReg2(Codes({1}), 0), errc::kNoCurrentRecord)
+  EXPECT_EQ(lost.ExportarReg1(test::Buffer({1}), 0), "");
+  EXPECT_EQ(exportacion_.ExportarReg1(test::Buffer({1}), 0), "") << "a declarant that does not exist";
+  EXPECT_EQ(exportacion_.ExportarReg1(test::Buffer({1}), 4), "") << "an index outside the list";
+  EXPECT_RAISES(exportacion_.ExportarReg2(test::Buffer({1}), 0), errc::kNoCurrentRecord)
       << "records 2 and 3 raise";
 }
 
@@ -114,7 +108,7 @@ TEST_F(ExportacionTest, TheDeclarantsFileReplacesWhatWasThere) {
   const int32_t b = Declarant("B64717838", "Zubia D'Arrieta");
   const auto path = dir_ / "dtes.txt";
   std::ofstream(path) << "old content that is longer than what replaces it\n\n\n\n";
-  ASSERT_TRUE(exportacion_.ExportarDtes(path.string(), Codes({a, b})));
+  ASSERT_TRUE(exportacion_.ExportarDtes(path.string(), test::Buffer({a, b})));
   const std::string text = Slurp(path);
   ASSERT_EQ(text.size(), 2u * 164);
   EXPECT_EQ(text.substr(162, 2), "\r\n");
@@ -122,7 +116,7 @@ TEST_F(ExportacionTest, TheDeclarantsFileReplacesWhatWasThere) {
   EXPECT_EQ(text.substr(164 + 9, 15), "Zubia D\xB4""Arrieta")
       << "a loaded declarant keeps the accent that stands for the apostrophe";
 
-  EXPECT_FALSE(exportacion_.ExportarDtes(path.string(), Codes({a, 99})));
+  EXPECT_FALSE(exportacion_.ExportarDtes(path.string(), test::Buffer({a, 99})));
   EXPECT_EQ(Slurp(path).size(), 164u) << "the lines before the failure stay";
 }
 

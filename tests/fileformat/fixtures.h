@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/text.h"
+#include "testutil.h"
 #include "zerbal/variant.h"
 
 namespace zerbal::test {
@@ -19,13 +20,6 @@ inline std::string Blanks(int count) { return std::string(count, ' '); }
 // The text followed by blanks up to `width` characters (never cut).
 inline std::string Pad(const std::string& text, int width) {
   return text + Blanks(width - static_cast<int>(Len(text)));
-}
-
-// A one-dimensional buffer 0 to values.size() - 1 + extra.
-inline Variant Buffer(const std::vector<Variant>& values, int extra = 0) {
-  Variant b(Array(0, static_cast<int32_t>(values.size()) - 1 + extra));
-  for (size_t i = 0; i < values.size(); ++i) b(static_cast<int32_t>(i)) = values[i];
-  return b;
 }
 
 inline const std::string kNombreDte = "Ñandú Etxeberria O'Neill";

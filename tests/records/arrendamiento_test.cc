@@ -13,12 +13,8 @@ using Rows = std::vector<std::vector<Variant>>;
 
 // A save buffer whose every element differs, so that a swapped column shows.
 Variant Buffer(int32_t codarr, int32_t declaracion, const std::string& razon) {
-  Variant b(Array(0, 15));
-  const Variant values[] = {codarr,       declaracion, 48,     "FR",  "B20456786", razon,
-                            250000.0,     "Donostia",  "1234567AB1234C0001DE", "CL",
-                            "Kale Nagusia", 12,        "B",    "3",   "izq",       20};
-  for (int32_t i = 0; i <= 15; ++i) b(i) = values[i];
-  return b;
+  return test::Buffer({codarr, declaracion, 48, "FR", "B20456786", razon, 250000.0, "Donostia",
+                       "1234567AB1234C0001DE", "CL", "Kale Nagusia", 12, "B", "3", "izq", 20});
 }
 
 class ArrendamientoTest : public test::DatabaseTest {

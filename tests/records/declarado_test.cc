@@ -13,13 +13,9 @@ using Rows = std::vector<std::vector<Variant>>;
 
 // A save buffer whose every element differs, so that a swapped column shows.
 Variant Buffer(int32_t codope, int32_t declaracion) {
-  Variant b(Array(0, 27));
-  const Variant values[] = {codope, declaracion, 20, "FR", "B20456786", "Zubia D'Arrieta",
-                            "A", 100000.0, 700.0, 800.0, "R", "S", "T",
-                            1301.0, 1302.0, 1303.0, 1304.0, 1701.0, 1702.0, 1703.0, 1704.0,
-                            2013, "DE", "DE123456789", "X", "Y", "Z", 2700.0};
-  for (int32_t i = 0; i <= 27; ++i) b(i) = values[i];
-  return b;
+  return test::Buffer({codope, declaracion, 20, "FR", "B20456786", "Zubia D'Arrieta", "A", 100000.0,
+                       700.0, 800.0, "R", "S", "T", 1301.0, 1302.0, 1303.0, 1304.0, 1701.0, 1702.0,
+                       1703.0, 1704.0, 2013, "DE", "DE123456789", "X", "Y", "Z", 2700.0});
 }
 
 class DeclaradoTest : public test::DatabaseTest {
@@ -306,12 +302,6 @@ class TotalesTest : public DeclaradoTest {
   }
   ~TotalesTest() override { Conexion().Cerrar(); }
 
-  static Variant Codes(std::initializer_list<Variant> codes) {
-    Variant list(Array(0, static_cast<int32_t>(codes.size()) - 1));
-    int32_t i = 0;
-    for (const Variant& code : codes) list(i++) = code;
-    return list;
-  }
 };
 
 TEST_F(TotalesTest, TotalsPerKeyOfOneDeclaration) {
@@ -329,17 +319,17 @@ TEST_F(TotalesTest, TotalsPerKeyOfOneDeclaration) {
 
 TEST_F(TotalesTest, TotalsOverSeveralDeclarantsOfOneYear) {
   cTDeclarados gateway;
-  const Variant totals = gateway.ObtenerTotalDeclaradosVarDtes(Codes({1, "2"}), 2013);
+  const Variant totals = gateway.ObtenerTotalDeclaradosVarDtes(test::Buffer({1, "2"}), 2013);
   ASSERT_EQ(totals.AsArray().UBound(2), 2);
   EXPECT_EQ(totals(0, 1), Variant("A"));
   EXPECT_EQ(totals(1, 1), Variant("1070")) << "declarant 3 and year 2012 left out";
   EXPECT_EQ(totals(2, 1), Variant("3"));
-  EXPECT_TRUE(gateway.ObtenerTotalDeclaradosVarDtes(Codes({3}), 2012).IsNull());
+  EXPECT_TRUE(gateway.ObtenerTotalDeclaradosVarDtes(test::Buffer({3}), 2012).IsNull());
 
   EXPECT_RAISES(gateway.ObtenerTotalDeclaradosVarDtes(Variant(Array()), 2013),
                 errc::kInvalidProcedureCall);
   EXPECT_RAISES(gateway.ObtenerTotalDeclaradosVarDtes(Variant(1), 2013), errc::kTypeMismatch);
-  EXPECT_RAISES(gateway.ObtenerTotalDeclaradosVarDtes(Codes({"1) OR (1=1"}), 2013),
+  EXPECT_RAISES(gateway.ObtenerTotalDeclaradosVarDtes(test::Buffer({"1) OR (1=1"}), 2013),
                 errc::kTypeMismatch);
 }
 

@@ -8,14 +8,6 @@ namespace {
 
 using Rows = std::vector<std::vector<Variant>>;
 
-Variant Buffer(int32_t code, const std::string& nif, const std::string& name) {
-  Variant b(Array(0, 17));
-  const Variant values[] = {code, nif, name, "CL", "Kale Nagusia", 12, "", "B", "3", "izq",
-                            20,   "20005", "Donostia", 943, "", "Ane", 0, "654321"};
-  for (int32_t i = 0; i <= 17; ++i) b(i) = values[i];
-  return b;
-}
-
 class DeclaranteTest : public test::DatabaseTest {
  protected:
   DeclaranteTest() {
@@ -23,7 +15,7 @@ class DeclaranteTest : public test::DatabaseTest {
     declaraciones_.mdbmod(mod_);
   }
   int32_t Add(const std::string& nif, const std::string& name = "Nombre") {
-    return declarante_.GuardarDeclarante(Buffer(0, nif, name));
+    return declarante_.GuardarDeclarante(test::PersonBuffer(0, nif, name));
   }
   int64_t Count(const std::string& table, const std::string& where) {
     return test::Rows(mod_, "SELECT count(*) FROM " + table + " WHERE " + where)[0][0].AsLong();
@@ -36,7 +28,8 @@ TEST_F(DeclaranteTest, SavedLoadedAndUpdatedWithTheStorageRules) {
   EXPECT_EQ(Add("11111111H"), 1);
   EXPECT_EQ(Add("22222222J"), 2);
   declarante_.EliminarDeclarante(2);
-  const int32_t code = declarante_.GuardarDeclarante(Buffer(0, "12345678Z", "Zubia D'Arrieta"));
+  const int32_t code =
+      declarante_.GuardarDeclarante(test::PersonBuffer(0, "12345678Z", "Zubia D'Arrieta"));
   EXPECT_EQ(code, 3) << "a new code above every code the table has held";
 
   Variant loaded;

@@ -18,14 +18,9 @@ using Rows = std::vector<std::vector<Variant>>;
 // An operation of declaration `decl`: importe 1000, impmet 200, impinm 300,
 // quarters 11-14 and 21-24, cash year 2010, no 2014 values.
 Variant Operacion(int32_t decl, const std::string& key = "A", double amount = 1000) {
-  Variant b(Array(0, 27));
-  const Variant values[] = {0,     decl,  20,    "",    "B20456786", "Zubia D'Arrieta",
-                            key,   amount, 200.0, 300.0, "",        "",
-                            "",    11.0,  12.0,  13.0,  14.0,      21.0,
-                            22.0,  23.0,  24.0,  2010,  "",        "",
-                            "",    "",    "",    0.0};
-  for (int32_t i = 0; i <= 27; ++i) b(i) = values[i];
-  return b;
+  return test::Buffer({0, decl, 20, "", "B20456786", "Zubia D'Arrieta", key, amount, 200.0, 300.0,
+                       "", "", "", 11.0, 12.0, 13.0, 14.0, 21.0, 22.0, 23.0, 24.0, 2010, "", "", "",
+                       "", "", 0.0});
 }
 
 class DuplicarTest : public test::DatabaseTest {
@@ -256,12 +251,9 @@ TEST_F(DuplicarTest, RentalsAreCopiedWholeWithTheYearsCountryCode) {
   for (const Case& c : cases) {
     decl += 2;
     for (double amount : {-1234.0, 99999999999.0}) {
-      Variant b(Array(0, 15));
-      const Variant values[] = {0,       decl,        48,   c.from, "B20456786", "D'Elosegi",
-                                amount,  "Donostia",  "RC", "CL",   "Nagusia",   12,
-                                "B",     "",          "izq", 20};
-      for (int32_t i = 0; i <= 15; ++i) b(i) = values[i];
-      arrendamiento_.GuardarArrendamiento(b);
+      arrendamiento_.GuardarArrendamiento(test::Buffer({0, decl, 48, c.from, "B20456786",
+                                                        "D'Elosegi", amount, "Donostia", "RC", "CL",
+                                                        "Nagusia", 12, "B", "", "izq", 20}));
     }
     CopyRentals(decl, decl + 1, c.yd);
     const std::string where = " FROM tArrendamientos WHERE coddeclar = ";

@@ -13,12 +13,7 @@ class PresentadorTest : public test::DatabaseTest {
   }
 
   static Variant Buffer(int32_t code, const std::string& nif) {
-    Variant b(Array(0, 17));
-    const Variant values[] = {code, nif, "Aholkularitza D'Elosegi S.L.", "CL", "Kale Nagusia",
-                              12, "", "B", "3", "izq", 20, "20005", "Donostia", 943, "",
-                              "Ane", 0, "654321"};
-    for (int32_t i = 0; i <= 17; ++i) b(i) = values[i];
-    return b;
+    return test::PersonBuffer(code, nif, "Aholkularitza D'Elosegi S.L.");
   }
   std::vector<std::vector<Variant>> Stored(const std::string& columns) {
     return test::Rows(mod_, "SELECT " + columns + " FROM TPresentador ORDER BY codpres");
