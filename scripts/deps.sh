@@ -3,7 +3,7 @@
 # Sourced by the other scripts; the machines run as root, otherwise sudo is used.
 set -euo pipefail
 
-zerbal_packages=(cmake g++ make pkg-config libsqlite3-dev libgtest-dev libbenchmark-dev nlohmann-json3-dev)
+zerbal_packages=(cmake g++ make pkg-config libsqlite3-dev sqlite3 libgtest-dev libbenchmark-dev nlohmann-json3-dev)
 
 zerbal_install_deps() {
   local missing=()

@@ -78,6 +78,8 @@ void Database::Execute(std::string_view sql, int options) {
   int rc;
   while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
   }
+  // Even a failed statement may have written (and rolled back) pages.
+  conn.NoteOwnWrite();
   if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
 }
 

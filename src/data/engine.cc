@@ -1,25 +1,26 @@
 #include "data/engine.h"
 
-#include <sys/stat.h>
-
 #include <atomic>
-#include <filesystem>
 #include <list>
 
 #include "base/convert.h"
 #include "base/raise.h"
+#include "data/collation.h"
 #include "data/like_pattern.h"
 
 namespace zerbal::data {
 namespace {
-
-namespace fs = std::filesystem;
 
 // Connections kept per thread; a few cover the data and the lookup database
 // with room for a second pair, and bound the open files.
 constexpr size_t kKeptConnections = 4;
 
 std::atomic<int64_t> g_busy_timeout_ms{5000};
+
+int FoldedCollation(void*, int size_a, const void* a, int size_b, const void* b) {
+  return CompareFolded(std::string_view(static_cast<const char*>(a), static_cast<size_t>(size_a)),
+                       std::string_view(static_cast<const char*>(b), static_cast<size_t>(size_b)));
+}
 
 void LikeFunction(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
   if (sqlite3_value_type(argv[0]) == SQLITE_NULL || sqlite3_value_type(argv[1]) == SQLITE_NULL) {
@@ -83,56 +84,49 @@ void PrepareEngine() {
 std::chrono::milliseconds BusyTimeout() { return std::chrono::milliseconds(g_busy_timeout_ms.load()); }
 void SetBusyTimeout(std::chrono::milliseconds timeout) { g_busy_timeout_ms = timeout.count(); }
 
-EngineConnection::Identity EngineConnection::Inspect(const std::string& path) {
-  if (path.empty()) Raise(errc::kInvalidPath, "(empty path)", kEngineSource);
-  struct stat st {};
-  if (::stat(path.c_str(), &st) != 0) {
-    const fs::path parent = fs::path(path).parent_path();
-    std::error_code ec;
-    const bool folder_exists = parent.empty() || fs::is_directory(parent, ec);
-    Raise(folder_exists ? errc::kDatabaseNotFound : errc::kInvalidPath, path, kEngineSource);
-  }
-  if (!S_ISREG(st.st_mode)) Raise(errc::kCannotOpen, path, kEngineSource);
-  Identity id;
-  id.device = st.st_dev;
-  id.inode = st.st_ino;
-  id.read_only = (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
-  return id;
-}
-
 std::shared_ptr<EngineConnection> EngineConnection::Open(const std::string& path, bool read_only) {
   PrepareEngine();
-  const Identity id = Inspect(path);
+  const FileIdentity id = InspectFile(path);
+  const FileHeader header = ReadOwnHeader(path, kApplicationId);
   sqlite3* raw = nullptr;
-  const int flags = (id.read_only || read_only ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) |
+  const int flags = (read_only || OnlyReadable(path, id) ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) |
                     SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
   const int rc = sqlite3_open_v2(path.c_str(), &raw, flags, nullptr);
   DbHandle handle(raw);
   if (rc != SQLITE_OK) RaiseEngineError(rc, raw);
   std::shared_ptr<EngineConnection> conn(new EngineConnection(std::move(handle), path, id));
-  conn->Configure();
+  conn->Configure(header.write_ahead_log);
   return conn;
 }
 
-void EngineConnection::Configure() {
+void EngineConnection::Configure(bool write_ahead_log) {
   sqlite3* db = handle_.get();
   sqlite3_extended_result_codes(db, 1);
   sqlite3_busy_timeout(db, static_cast<int>(g_busy_timeout_ms.load()));
-  // Keep the log file on close: a connection that outlives a replaced file
-  // must never delete, by name, the log of the file now at its path.
-  int persist = 1;
-  sqlite3_file_control(db, "main", SQLITE_FCNTL_PERSIST_WAL, &persist);
-  if (QueryInt(db, "PRAGMA application_id") != kApplicationId) {
-    Raise(errc::kUnrecognizedFormat, path_, kEngineSource);
-  }
-  QueryInt(db, "PRAGMA synchronous = NORMAL");
-  // Checkpoints leave the log empty, so after a clean exit the database file
-  // alone holds every change.
-  QueryInt(db, "PRAGMA journal_size_limit = 0");
+  // Text columns are declared NOCASE; on our connections that name folds
+  // every Latin letter, as LIKE does.
+  Check(sqlite3_create_collation(db, "NOCASE", SQLITE_UTF8, nullptr, FoldedCollation), db);
   Check(sqlite3_create_function(db, "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
                                 LikeFunction, nullptr, nullptr),
         db);
+  // A file an earlier version left with a write-ahead log goes back to the
+  // rollback journal, which leaves nothing beside the file between calls.
+  if (write_ahead_log) {
+    Statement mode = PrepareOne(db, "PRAGMA journal_mode = DELETE");
+    const int rc = sqlite3_step(mode.get());
+    if (rc != SQLITE_ROW) RaiseEngineError(rc, db);
+    const auto* now = reinterpret_cast<const char*>(sqlite3_column_text(mode.get(), 0));
+    // Another connection still using the log keeps the file in that mode.
+    if (now == nullptr || std::string_view(now) != "delete") {
+      Raise(errc::kLocked, path_ + ": in use with a write-ahead log", kEngineSource);
+    }
+  }
+  // Every call's changes reach the operating system before the call returns,
+  // so they survive a crash of the program; flushing them to the disk on
+  // every call would cost one to two milliseconds a call.
+  QueryInt(db, "PRAGMA synchronous = OFF");
   indexed_ = FindIndexedTextColumns(db);
+  identity_ = InspectFile(path_);
 }
 
 std::string EngineConnection::Translate(std::string_view sql) const {
@@ -141,9 +135,17 @@ std::string EngineConnection::Translate(std::string_view sql) const {
 
 bool EngineConnection::IsCurrent() const {
   try {
-    return Inspect(path_) == identity_;
+    return InspectFile(path_) == identity_;
   } catch (const Error&) {
     return false;
+  }
+}
+
+void EngineConnection::NoteOwnWrite() {
+  try {
+    identity_ = InspectFile(path_);
+  } catch (const Error&) {
+    identity_ = FileIdentity{};  // gone: the next use opens afresh and says why
   }
 }
 

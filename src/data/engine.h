@@ -4,8 +4,13 @@
 //
 // Opening a database is a per-call affair in the system's design; the
 // connections behind it are kept per thread and reused while the file on
-// disk stays the same one (same device, inode and write permission), so a
-// file replaced on disk is opened afresh.
+// disk is untouched since this thread last used it (same device, inode,
+// size, times and write permission). Anything else, a file renamed or
+// copied into place or written by another process, is opened afresh.
+//
+// Files use a rollback journal, which exists only while a statement writes:
+// between calls there is no log beside a database that a file put in its
+// place could be paired with.
 
 #ifndef ZERBAL_DATA_ENGINE_H_
 #define ZERBAL_DATA_ENGINE_H_
@@ -18,6 +23,7 @@
 #include <string_view>
 
 #include "data/dialect.h"
+#include "data/file_identity.h"
 #include "data/sqlite.h"
 
 namespace zerbal::data {
@@ -39,8 +45,9 @@ class EngineConnection {
  public:
   // Checks the path and opens it. Never creates a file: a missing file is
   // 3024, a missing folder or empty path 3044, a folder or unreadable file
-  // 3051, a file that is not a database of ours 3343. A file without any
-  // write permission is opened read-only, so writes to it fail with 3027.
+  // 3051, a file that is not a database of ours 3343 (and is left exactly as
+  // it was). A file without write permission, or in a folder without it, is
+  // opened read-only, so reads work and writes fail with 3027.
   static std::shared_ptr<EngineConnection> Open(const std::string& path, bool read_only);
 
   sqlite3* db() const { return handle_.get(); }
@@ -49,25 +56,21 @@ class EngineConnection {
   // The statement in the engine's own SQL (see dialect.h).
   std::string Translate(std::string_view sql) const;
 
-  // Whether this connection still stands for what is at its path.
+  // Whether this connection still stands for what is at its path: the file
+  // is the one it opened and nobody has written it since its last use here.
   bool IsCurrent() const;
 
- private:
-  struct Identity {
-    uint64_t device = 0;
-    uint64_t inode = 0;
-    bool read_only = false;  // no write permission on the file
-    bool operator==(const Identity&) const = default;
-  };
-  static Identity Inspect(const std::string& path);
+  // Takes note of the file as this connection's own statements left it.
+  void NoteOwnWrite();
 
-  EngineConnection(DbHandle handle, std::string path, Identity identity)
+ private:
+  EngineConnection(DbHandle handle, std::string path, FileIdentity identity)
       : handle_(std::move(handle)), path_(std::move(path)), identity_(identity) {}
-  void Configure();
+  void Configure(bool write_ahead_log);
 
   DbHandle handle_;
   std::string path_;
-  Identity identity_;
+  FileIdentity identity_;
   IndexedTextColumns indexed_;
 };
 

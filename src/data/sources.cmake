@@ -7,6 +7,8 @@ list(APPEND ZERBAL_SOURCES
   data/databases.cc
   data/dialect.cc
   data/engine.cc
+  data/collation.cc
+  data/file_identity.cc
   data/like_pattern.cc
   data/queries.cc
   data/recordset.cc

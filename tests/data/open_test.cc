@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <fstream>
 
 #include "data/engine.h"
@@ -36,7 +37,15 @@ TEST_F(OpenTest, BadPathsGetTheirNumbersAndCreateNothing) {
     sqlite3_exec(foreign, "CREATE TABLE t (x); INSERT INTO t VALUES (1)", nullptr, nullptr,
                  nullptr);
     sqlite3_close(foreign);
+    sqlite3_open((dir_ / "foreign-wal.db").c_str(), &foreign);
+    sqlite3_exec(foreign, "PRAGMA journal_mode = WAL; CREATE TABLE t (x)", nullptr, nullptr,
+                 nullptr);
+    sqlite3_close(foreign);
   }
+  fs::copy_file(mod_, dir_ / "truncated.db");
+  fs::resize_file(dir_ / "truncated.db", 1024);
+  std::vector<fs::path> before;
+  for (const auto& entry : fs::directory_iterator(dir_.path())) before.push_back(entry.path());
   const struct {
     fs::path path;
     int32_t error;
@@ -48,6 +57,8 @@ TEST_F(OpenTest, BadPathsGetTheirNumbersAndCreateNothing) {
       {dir_ / "notes.txt", errc::kUnrecognizedFormat},
       {dir_ / "empty.db", errc::kUnrecognizedFormat},
       {dir_ / "foreign.db", errc::kUnrecognizedFormat},
+      {dir_ / "foreign-wal.db", errc::kUnrecognizedFormat},
+      {dir_ / "truncated.db", errc::kUnrecognizedFormat},
   };
   for (const auto& row : rows) {
     const auto error = test::ErrorOf([&] { Open(row.path.string()); });
@@ -55,24 +66,42 @@ TEST_F(OpenTest, BadPathsGetTheirNumbersAndCreateNothing) {
     EXPECT_EQ(error->Number(), row.error) << row.path << ": " << error->Description();
     EXPECT_EQ(error->Source(), "zerbal.Database");
   }
-  EXPECT_FALSE(fs::exists(dir_ / "missing.db"));
-  EXPECT_FALSE(fs::exists(dir_ / "no"));
+  std::vector<fs::path> after;
+  for (const auto& entry : fs::directory_iterator(dir_.path())) after.push_back(entry.path());
+  std::sort(before.begin(), before.end());
+  std::sort(after.begin(), after.end());
+  EXPECT_EQ(after, before) << "nothing created beside a refused file";
   EXPECT_EQ(fs::file_size(dir_ / "empty.db"), 0u) << "a refused file is left as it was";
 }
 
-TEST_F(OpenTest, AFileWithoutWritePermissionIsReadOnly) {
-  Open(mod_);
-  Conexion().execute("INSERT INTO TDeclarante (dni_cifd) VALUES ('1')");
-  Conexion().Cerrar();
-  fs::permissions(mod_, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
-  Open(mod_);
-  EXPECT_EQ(Count("TDeclarante"), 1);
-  EXPECT_RAISES(Conexion().execute("INSERT INTO TDeclarante (dni_cifd) VALUES ('2')"), 3027);
-  EXPECT_EQ(Count("TDeclarante"), 1);
-  fs::permissions(mod_, fs::perms::owner_write, fs::perm_options::add);
-  Open(mod_);
-  Conexion().execute("INSERT INTO TDeclarante (dni_cifd) VALUES ('2')");
-  EXPECT_EQ(Count("TDeclarante"), 2) << "writable again once the permission is back";
+TEST_F(OpenTest, AFileOrFolderWithoutWritePermissionIsReadOnly) {
+  const auto read_only = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+  const auto folder_read_only = read_only | fs::perms::owner_exec;
+  const fs::path folder = dir_.path();
+  const struct {
+    const char* name;
+    fs::path path;
+    fs::perms perms;
+  } rows[] = {{"file", mod_, read_only}, {"folder", folder, folder_read_only}};
+  int64_t expected = 0;
+  for (const auto& row : rows) {
+    Open(mod_);
+    Conexion().execute("INSERT INTO TDeclarante (dni_cifd) VALUES ('1')");
+    ++expected;
+    Conexion().Cerrar();
+    const fs::perms saved = fs::status(row.path).permissions();
+    fs::permissions(row.path, row.perms);
+    Open(mod_);
+    EXPECT_EQ(Count("TDeclarante"), expected) << row.name;
+    EXPECT_RAISES(Conexion().execute("INSERT INTO TDeclarante (dni_cifd) VALUES ('2')"), 3027)
+        << row.name;
+    EXPECT_EQ(Count("TDeclarante"), expected) << row.name;
+    fs::permissions(row.path, saved);
+    Open(mod_);
+    Conexion().execute("INSERT INTO TDeclarante (dni_cifd) VALUES ('2')");
+    ++expected;
+    EXPECT_EQ(Count("TDeclarante"), expected) << row.name << ": writable again";
+  }
 }
 
 TEST_F(OpenTest, AWriterWaitsForALockThenGivesUp) {

@@ -4,4 +4,5 @@ list(APPEND ZERBAL_TEST_SOURCES
   data/databases_test.cc
   data/dialect_test.cc
   data/open_test.cc
+  data/replace_test.cc
 )
