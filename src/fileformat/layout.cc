@@ -24,7 +24,8 @@ const Variant& ValueOf(const Source& source, const RecordInput& input) {
     case From::kRecord: return Buffer(input.record)(source.element);
     case From::kValue: return input.values[source.element];
     case From::kNothing:
-    case From::kLiteral: break;
+    case From::kLiteral:
+    case From::kLinea: break;  // cut by WriteField
   }
   return Buffer(nullptr);
 }
@@ -47,12 +48,7 @@ std::string Text(std::string text, int16_t width, std::string_view fill) {
   return General::FormatoTexto(text, width, fill);
 }
 
-}  // namespace
-
-std::string WriteField(const Field& field, const RecordInput& input) {
-  if (field.kind == Kind::kConstant) return std::string(field.source.literal);
-  if (field.kind == Kind::kBlanks) return std::string(field.width, ' ');
-  const Variant& value = ValueOf(field.source, input);
+std::string Formatted(const Field& field, const Variant& value, std::string_view moneda) {
   const int16_t width = field.width;
   switch (field.kind) {
     case Kind::kText: return Text(CStr(value), width, " ");
@@ -63,12 +59,28 @@ std::string WriteField(const Field& field, const RecordInput& input) {
     case Kind::kAmount: return General::FormatoImporte(General::BC(value), width, "0");
     case Kind::kSignedAmount: return SignedAmount(value, width);
     case Kind::kConverted:
-      return General::FormatoNumero(Converted(value, input.moneda), width, "0");
+      return General::FormatoNumero(Converted(value, moneda), width, "0");
     case Kind::kKey: return General::ConvertirClave(CStr(value));
+    case Kind::kTrimmed: return Text(Trim(CStr(value)), width, " ");
+    case Kind::kFlag:
+      return Trim(CStr(value)).empty() ? std::string(" ") : std::string(field.source.literal);
+    case Kind::kMaskBC: return Format(General::BC(value), "0" + RepeatChar("#", width - 1));
     case Kind::kConstant:
     case Kind::kBlanks: break;
   }
   return {};
+}
+
+}  // namespace
+
+std::string WriteField(const Field& field, const RecordInput& input) {
+  if (field.kind == Kind::kConstant) return std::string(field.source.literal);
+  if (field.kind == Kind::kBlanks) return std::string(field.width, ' ');
+  if (field.source.from == From::kLinea) {
+    return Formatted(field, Variant(Mid(input.linea, field.source.element, field.source.length)),
+                     input.moneda);
+  }
+  return Formatted(field, ValueOf(field.source, input), input.moneda);
 }
 
 std::string WriteRecord(const Layout& layout, const RecordInput& input) {

@@ -5,6 +5,8 @@
 // the value is formatted) and its source (which buffer element or computed
 // value it shows). The record writers of the year modules write records from
 // these tables; the import's splitters are to cut lines with the same ones.
+// The conversions of state-layout lines use the same tables, with fields
+// taken from the state line (Estatal) instead of a buffer.
 //
 // Every table is checked where it is defined (static_assert on FaultyField):
 // a field that does not start where the previous one ends, a constant whose
@@ -47,6 +49,9 @@ enum class Kind : uint8_t {
   kSignedAmount,  // S+A(w-1): "N" or a blank, then A(w-1) of the same BC value
   kConverted,     // N(w) of the amount, pesetas to euro cents when the currency is "P"
   kKey,           // the operation key through ConvertirClave (2007 and before)
+  kTrimmed,       // T(w) of the text without surrounding blanks
+  kFlag,          // the source's letter when the text is not blank, else a blank
+  kMaskBC,        // BC formatted with the mask "0#" (w characters: "0" and w-1 "#")
 };
 
 // Values a writer works out before it writes, numbered as elements.
@@ -57,7 +62,13 @@ enum Valor : int16_t {
   kCodigoPostal,      // record 0: province followed by the last three postal-code digits
   kUltimosCodPostal,  // declarants file: last three characters of element 11
   kTotales,           // record 1: four values per key "A" to "E" from here
-  kValores = kTotales + 5 * 4,
+  // Conversions of state lines: what a rule works out from several fields.
+  kNifDeclarado = kTotales + 5 * 4,  // the declared party's NIF (2008 and 2007)
+  kNifArrendatario,  // the tenant's NIF, none when the premises' province reads 0
+  kClave,            // the operation key through ConvertirClave (2007)
+  kProvPais,         // the province and country through ConvertirProvPais (2007)
+  kMonedaDte,        // "P" or "E" at the end of a 2007 declarant line
+  kValores,
 };
 
 // The four values of one key of record 1.
@@ -74,13 +85,15 @@ constexpr int16_t TotalIndex(char key, ParteTotal part) {
 
 // Where a field's value comes from. The presenter and the declarant buffer
 // take the same place (record 0 has no declarant); so do the operation and
-// the rental buffer.
-enum class From : uint8_t { kNothing, kLiteral, kPersona, kRecord, kValue };
+// the rental buffer. A state line's field is its characters `element` to
+// `element + length - 1`.
+enum class From : uint8_t { kNothing, kLiteral, kPersona, kRecord, kValue, kLinea };
 
 struct Source {
   From from = From::kNothing;
   int16_t element = 0;
   std::string_view literal;
+  int16_t length = 0;
 };
 
 constexpr Source Literal(std::string_view text) { return {From::kLiteral, 0, text}; }
@@ -91,6 +104,10 @@ constexpr Source Arrendamiento(int16_t element) { return {From::kRecord, element
 constexpr Source Calculado(Valor valor) { return {From::kValue, valor, {}}; }
 constexpr Source Total(char key, ParteTotal part) {
   return {From::kValue, TotalIndex(key, part), {}};
+}
+// Characters `desde` to `hasta` of the state line being converted.
+constexpr Source Estatal(int16_t desde, int16_t hasta) {
+  return {From::kLinea, desde, {}, static_cast<int16_t>(hasta - desde + 1)};
 }
 
 struct Field {
@@ -121,6 +138,14 @@ inline constexpr auto A = Make<Kind::kAmount>;
 inline constexpr auto SA = Make<Kind::kSignedAmount>;
 inline constexpr auto Pts = Make<Kind::kConverted>;
 inline constexpr auto Key = Make<Kind::kKey>;
+inline constexpr auto TT = Make<Kind::kTrimmed>;
+inline constexpr auto MaskBC = Make<Kind::kMaskBC>;
+// "X" or "R" in one position when the source is filled.
+constexpr Field Flag(std::string_view name, int16_t start, std::string_view letter,
+                     Source source) {
+  source.literal = letter;
+  return {name, start, 1, Kind::kFlag, source};
+}
 
 // Pieces of a layout joined in order (shared heads and tails are written once).
 template <size_t... N>
@@ -139,7 +164,8 @@ struct Layout {
 
 // The index of the first field that is out of place (not starting where the
 // previous one ends, not at least one character wide, a constant whose text
-// is not its width, a computed value that does not exist); the number of
+// is not its width, a computed value that does not exist, a state field of
+// no characters); the number of
 // fields when the last one does not end at the record's length; -1 when the
 // layout is sound.
 constexpr int FaultyField(const Layout& layout) {
@@ -150,7 +176,9 @@ constexpr int FaultyField(const Layout& layout) {
         f.kind != Kind::kConstant || f.source.literal.size() == static_cast<size_t>(f.width);
     const bool value_exists = f.source.from != From::kValue ||
                               (f.source.element >= 0 && f.source.element < kValores);
-    if (f.start != next || f.width < 1 || !constant_fits || !value_exists) {
+    const bool span_exists =
+        f.source.from != From::kLinea || (f.source.element >= 1 && f.source.length >= 1);
+    if (f.start != next || f.width < 1 || !constant_fits || !value_exists || !span_exists) {
       return static_cast<int>(i);
     }
     next += f.width;
@@ -165,6 +193,7 @@ struct RecordInput {
   const Variant* record = nullptr;   // operation or rental buffer
   std::array<Variant, kValores> values;
   std::string_view moneda;  // the currency letter: "P" converts pesetas
+  std::string_view linea;   // the state line being converted; past its end reads as ""
 };
 
 // One field, formatted by its kind. Errors of the conversions pass unchanged:

@@ -1,4 +1,5 @@
 list(APPEND ZERBAL_SOURCES
+  fileformat/conv_del_estatal.cc
   fileformat/export2007.cc
   fileformat/export2008.cc
   fileformat/export2011.cc

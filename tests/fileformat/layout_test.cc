@@ -92,6 +92,8 @@ TEST(LayoutTest, ATableTypoIsCaughtBeforeAnythingIsWritten) {
   EXPECT_EQ(FaultyField(Layout{"constant", 5, wrong_constant}), 1);
   EXPECT_EQ(FaultyField(Layout{"too short", 14, sound}), 3);
   EXPECT_EQ(FaultyField(Layout{"sound", 13, sound}), -1);
+  constexpr std::array no_span = {TT("nifo", 1, 9, Estatal(26, 18))};
+  EXPECT_EQ(FaultyField(Layout{"state field backwards", 9, no_span}), 0);
 
   const Variant record = test::Buffer({"B20000001"});
   RecordInput input;

@@ -1,4 +1,5 @@
 list(APPEND ZERBAL_TEST_SOURCES
+  fileformat/conv_del_estatal_test.cc
   fileformat/export2014_test.cc
   fileformat/export_earlier_test.cc
   fileformat/exportacion_test.cc
