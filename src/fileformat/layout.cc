@@ -64,7 +64,7 @@ std::string Formatted(const Field& field, const Variant& value, std::string_view
     case Kind::kTrimmed: return Text(Trim(CStr(value)), width, " ");
     case Kind::kFlag:
       return Trim(CStr(value)).empty() ? std::string(" ") : std::string(field.source.literal);
-    case Kind::kMaskBC: return Format(General::BC(value), "0" + RepeatChar("#", width - 1));
+    case Kind::kMaskBC: return Format(General::BC(value), std::string("0").append(RepeatChar("#", width - 1)));
     case Kind::kConstant:
     case Kind::kBlanks: break;
   }
