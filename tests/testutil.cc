@@ -2,7 +2,7 @@
 
 #include <stdlib.h>
 
-#include "data/database.h"
+#include "data/engine.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::test {
@@ -58,20 +58,23 @@ std::optional<Error> ErrorOf(const std::function<void()>& body) {
 }
 
 std::vector<std::vector<Variant>> Rows(const std::string& path, const std::string& sql) {
-  data::Workspace ws("test", "admin", "", 2);
-  data::Database db = ws.OpenDatabase(path, false, false, "");
-  Recordset rs = db.OpenRecordset(sql);
+  auto conn = data::EngineConnection::Open(path, false);
+  data::Statement stmt = data::PrepareOne(conn->db(), sql);
   std::vector<std::vector<Variant>> rows;
-  for (; !rs.Eof(); rs.MoveNext()) {
+  int rc;
+  while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
     std::vector<Variant>& row = rows.emplace_back();
-    for (int32_t c = 0; c < rs.FieldCount(); ++c) row.push_back(rs.Fields(c).Value());
+    for (int c = 0; c < sqlite3_column_count(stmt.get()); ++c) {
+      row.push_back(data::ColumnValue(stmt.get(), c));
+    }
   }
+  if (rc != SQLITE_DONE) data::RaiseEngineError(rc, conn->db());
   return rows;
 }
 
 void Exec(const std::string& path, const std::string& sql) {
-  data::Workspace ws("test", "admin", "", 2);
-  ws.OpenDatabase(path, false, false, "").Execute(sql);
+  auto conn = data::EngineConnection::Open(path, false);
+  data::ExecScript(conn->db(), sql);
 }
 
 }  // namespace zerbal::test

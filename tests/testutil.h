@@ -57,11 +57,12 @@ std::optional<Error> ErrorOf(const std::function<void()>& body);
                                   const char* text);
 
 // Every row of `sql` on the database at `path`, each column as its Variant,
-// read through a database opened apart from the shared connection.
+// read through a connection of its own in the engine's own SQL (so a test
+// may look at what the system's SQL may not: rowid, the catalogue, ...).
 std::vector<std::vector<Variant>> Rows(const std::string& path, const std::string& sql);
 
-// Runs one action statement on the database at `path`, apart from the
-// shared connection.
+// Runs statements in the engine's own SQL on the database at `path`,
+// through a connection of its own.
 void Exec(const std::string& path, const std::string& sql);
 
 }  // namespace zerbal::test

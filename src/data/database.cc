@@ -9,45 +9,6 @@
 #include "data/sqlite.h"
 
 namespace zerbal::data {
-namespace {
-
-Variant ColumnValue(sqlite3_stmt* stmt, int column) {
-  switch (sqlite3_column_type(stmt, column)) {
-    case SQLITE_NULL:
-      return Variant::Null();
-    case SQLITE_INTEGER: {
-      const int64_t n = sqlite3_column_int64(stmt, column);
-      // The original engine has no wider whole number than 32 bits.
-      if (n >= std::numeric_limits<int32_t>::min() && n <= std::numeric_limits<int32_t>::max()) {
-        return Variant(static_cast<int32_t>(n));
-      }
-      return Variant(static_cast<double>(n));
-    }
-    case SQLITE_FLOAT:
-      return Variant(sqlite3_column_double(stmt, column));
-    default: {
-      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, column));
-      return Variant(std::string(text ? text : "", sqlite3_column_bytes(stmt, column)));
-    }
-  }
-}
-
-// Statements of the original engine's language only: no engine-specific
-// commands (ATTACH, PRAGMA, VACUUM, ...), which could reach other files.
-void CheckKind(std::string_view sql) {
-  static constexpr std::string_view kAllowed[] = {"SELECT", "INSERT", "UPDATE", "DELETE",
-                                                  "CREATE", "ALTER", "DROP"};
-  const size_t begin = sql.find_first_not_of(" \t\r\n(");
-  const std::string first =
-      begin == std::string_view::npos ? "" : UCase(sql.substr(begin, 6));
-  for (std::string_view word : kAllowed) {
-    if (first.starts_with(word)) return;
-  }
-  Raise(errc::kNotAStatement, sql.substr(0, 40), kEngineSource);
-}
-
-}  // namespace
-
 Database::Database(std::shared_ptr<EngineConnection> connection, std::string name)
     : connection_(std::move(connection)), name_(std::move(name)) {}
 
@@ -72,8 +33,8 @@ EngineConnection& Database::Connection() const {
 
 void Database::Execute(std::string_view sql, int options) {
   EngineConnection& conn = Connection();
-  CheckKind(sql);
-  Statement stmt = PrepareOne(conn.db(), conn.Translate(sql));
+  conn.inserted_key().Forget();
+  BoundStatement stmt = conn.Prepare(sql);
   if (sqlite3_column_count(stmt.get()) > 0) Raise(errc::kSelectInExecute, {}, kEngineSource);
   int rc;
   while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
@@ -81,23 +42,29 @@ void Database::Execute(std::string_view sql, int options) {
   // Even a failed statement may have written (and rolled back) pages.
   conn.NoteOwnWrite();
   if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
+  if (stmt.shape().definition) conn.TablesChanged();
+  conn.inserted_key().AfterStatement(conn.db(), stmt.shape());
 }
 
 Recordset Database::OpenRecordset(std::string_view sql, int type) {
   EngineConnection& conn = Connection();
-  CheckKind(sql);
-  Statement stmt = PrepareOne(conn.db(), conn.Translate(sql));
+  BoundStatement stmt = conn.Prepare(sql);
   const int columns = sqlite3_column_count(stmt.get());
   if (columns == 0) Raise(errc::kInvalidOperation, {}, kEngineSource);
   auto state = std::make_shared<RecordsetState>();
   for (int c = 0; c < columns; ++c) state->names.emplace_back(sqlite3_column_name(stmt.get(), c));
-  int rc;
-  while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
-    if (state->rows == std::numeric_limits<int32_t>::max()) Raise(errc::kOutOfMemory);
-    for (int c = 0; c < columns; ++c) state->values.push_back(ColumnValue(stmt.get(), c));
-    ++state->rows;
+  if (const auto key = conn.inserted_key().ReadBack(conn.db(), stmt.shape())) {
+    state->values.push_back(Variant(static_cast<int32_t>(*key)));
+    state->rows = 1;
+  } else {
+    int rc;
+    while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
+      if (state->rows == std::numeric_limits<int32_t>::max()) Raise(errc::kOutOfMemory);
+      for (int c = 0; c < columns; ++c) state->values.push_back(ColumnValue(stmt.get(), c));
+      ++state->rows;
+    }
+    if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
   }
-  if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
   std::erase_if(recordsets_, [](const auto& weak) { return weak.expired(); });
   recordsets_.push_back(state);
   return RecordsetStateAccess::Make(std::move(state));

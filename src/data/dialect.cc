@@ -1,7 +1,6 @@
 #include "data/dialect.h"
 
 #include <cctype>
-#include <vector>
 
 #include "base/convert.h"
 #include "base/raise.h"
@@ -9,105 +8,6 @@
 
 namespace zerbal::data {
 namespace {
-
-enum class Tok { kSpace, kWord, kQuoted, kString, kNumber, kPunct };
-
-struct Token {
-  Tok kind;
-  std::string text;
-};
-
-using Tokens = std::vector<Token>;
-
-bool IsWordByte(char c) {
-  const auto u = static_cast<unsigned char>(c);
-  return std::isalnum(u) || c == '_' || u >= 0x80;
-}
-
-// Length of the token that starts at `pos`, and its kind.
-size_t Scan(std::string_view sql, size_t pos, Tok* kind) {
-  const char c = sql[pos];
-  auto until = [&](size_t from, std::string_view close) {
-    const size_t end = sql.find(close, from);
-    return (end == std::string_view::npos ? sql.size() : end + close.size()) - pos;
-  };
-  if (std::isspace(static_cast<unsigned char>(c))) {
-    *kind = Tok::kSpace;
-    size_t k = pos;
-    while (k < sql.size() && std::isspace(static_cast<unsigned char>(sql[k]))) ++k;
-    return k - pos;
-  }
-  if (sql.substr(pos, 2) == "--") return *kind = Tok::kSpace, until(pos, "\n");
-  if (sql.substr(pos, 2) == "/*") return *kind = Tok::kSpace, until(pos + 2, "*/");
-  if (c == '\'') {
-    *kind = Tok::kString;
-    size_t k = pos + 1;
-    while (k < sql.size()) {
-      if (sql[k] == '\'' && (k + 1 >= sql.size() || sql[k + 1] != '\'')) return k + 1 - pos;
-      k += sql[k] == '\'' ? 2 : 1;
-    }
-    return sql.size() - pos;
-  }
-  if (c == '[') return *kind = Tok::kQuoted, until(pos + 1, "]");
-  if (c == '"' || c == '`') return *kind = Tok::kQuoted, until(pos + 1, std::string_view(&c, 1));
-  if (std::isdigit(static_cast<unsigned char>(c))) {
-    *kind = Tok::kNumber;
-    size_t k = pos;
-    while (k < sql.size() && (IsWordByte(sql[k]) || sql[k] == '.')) ++k;
-    return k - pos;
-  }
-  if (IsWordByte(c)) {
-    *kind = Tok::kWord;
-    size_t k = pos;
-    while (k < sql.size() && IsWordByte(sql[k])) ++k;
-    return k - pos;
-  }
-  *kind = Tok::kPunct;
-  static constexpr std::string_view kPairs[] = {"<>", "<=", ">=", "!=", "==", "||", "<<", ">>"};
-  for (std::string_view pair : kPairs) {
-    if (sql.substr(pos, 2) == pair) return 2;
-  }
-  return 1;
-}
-
-Tokens Tokenize(std::string_view sql) {
-  Tokens tokens;
-  for (size_t pos = 0; pos < sql.size();) {
-    Tok kind;
-    const size_t len = Scan(sql, pos, &kind);
-    tokens.push_back({kind, std::string(sql.substr(pos, len))});
-    pos += len;
-  }
-  return tokens;
-}
-
-// Keywords are ASCII: compare without building an upper-case copy.
-bool SameWord(std::string_view text, std::string_view upper) {
-  if (text.size() != upper.size()) return false;
-  for (size_t k = 0; k < text.size(); ++k) {
-    if (std::toupper(static_cast<unsigned char>(text[k])) != upper[k]) return false;
-  }
-  return true;
-}
-
-bool Is(const Tokens& t, size_t i, std::string_view upper_word) {
-  return i < t.size() && (t[i].kind == Tok::kWord || t[i].kind == Tok::kPunct) &&
-         SameWord(t[i].text, upper_word);
-}
-
-// Index of the first token at or after `i` that is not blank; t.size() if none.
-size_t Next(const Tokens& t, size_t i) {
-  while (i < t.size() && t[i].kind == Tok::kSpace) ++i;
-  return i;
-}
-
-// Index of the last non-blank token before `i`; npos if none.
-size_t Prev(const Tokens& t, size_t i) {
-  while (i > 0) {
-    if (t[--i].kind != Tok::kSpace) return i;
-  }
-  return std::string::npos;
-}
 
 // Index of the token that ends the SELECT at `i`: the ")" closing the
 // parenthesis it sits in, a ";" or the end.
@@ -194,23 +94,41 @@ bool EndsTerm(const Tokens& t, size_t i) {
   return false;
 }
 
-std::string Quote(std::string_view text) {
-  std::string out = "'";
-  for (char c : text) out += c == '\'' ? std::string("''") : std::string(1, c);
-  return out + "'";
+// A LIKE that a range can serve: "[t.]col LIKE ?" standing as a term of
+// its own, on an indexed text column. Gives the index of the column's first
+// token and of the parameter.
+bool RangeableLike(const Tokens& t, size_t like, const IndexedTextColumns& indexed,
+                   size_t* begin, size_t* param) {
+  const size_t column = Prev(t, like);
+  *param = Next(t, like + 1);
+  if (column == std::string::npos || t[column].kind != Tok::kWord || Is(t, column, "NOT") ||
+      *param >= t.size() || t[*param].kind != Tok::kParam) {
+    return false;
+  }
+  *begin = column;
+  const size_t dot = Prev(t, column);
+  if (Is(t, dot, ".") && dot > 0 && t[dot - 1].kind == Tok::kWord) *begin = dot - 1;
+  return StartsTerm(t, Prev(t, *begin)) && EndsTerm(t, Next(t, *param + 1)) &&
+         indexed.find(LCase(t[column].text)) != indexed.end();
 }
 
-// The range that holds every text starting with `prefix` in the engine's
-// case-blind order; empty when there is none to give.
-bool PrefixRange(std::string_view literal, std::string* low, std::string* high) {
-  std::string pattern;
-  for (size_t k = 1; k + 1 < literal.size(); ++k) {
-    pattern.push_back(literal[k]);
-    if (literal[k] == '\'') ++k;
+// The value index of each parameter token, in order.
+std::vector<size_t> ParamValues(const Tokens& t) {
+  std::vector<size_t> values(t.size(), 0);
+  size_t n = 0;
+  for (size_t i = 0; i < t.size(); ++i) {
+    if (t[i].kind == Tok::kParam) values[i] = n++;
   }
+  return values;
+}
+
+}  // namespace
+
+bool PrefixRange(std::string_view pattern, std::string* low, std::string* high) {
   const size_t stop = pattern.find_first_of("*?#[");
-  *low = pattern.substr(0, stop);
+  *low = std::string(pattern.substr(0, stop));
   if (low->empty()) return false;
+  // Only a prefix of plain ASCII has a simple upper bound in the text order.
   for (char c : *low) {
     if (static_cast<unsigned char>(c) >= 0x7F || c < 0x20) return false;
   }
@@ -219,44 +137,61 @@ bool PrefixRange(std::string_view literal, std::string* low, std::string* high) 
   return true;
 }
 
-void AddLikeRanges(Tokens& t, const IndexedTextColumns& indexed) {
+std::vector<size_t> RangeCandidates(const Shape& shape, const IndexedTextColumns& indexed) {
+  std::vector<size_t> candidates;
+  const std::vector<size_t> values = ParamValues(shape.tokens);
+  for (size_t i = 0; i < shape.tokens.size(); ++i) {
+    size_t begin, param;
+    if (Is(shape.tokens, i, "LIKE") && RangeableLike(shape.tokens, i, indexed, &begin, &param) &&
+        shape.values[values[param]].kind == Literal::Kind::kText) {
+      candidates.push_back(values[param]);
+    }
+  }
+  return candidates;
+}
+
+Translation Translate(const Shape& shape, const IndexedTextColumns& indexed,
+                      const std::vector<bool>& ranged) {
+  Tokens t = shape.tokens;
+  Translation out;
+  const std::vector<size_t> values = ParamValues(t);
   for (size_t i = 0; i < t.size(); ++i) {
-    if (!Is(t, i, "LIKE")) continue;
-    const size_t column = Prev(t, i);
-    const size_t literal = Next(t, i + 1);
-    if (column == std::string::npos || t[column].kind != Tok::kWord || Is(t, column, "NOT") ||
-        literal >= t.size() || t[literal].kind != Tok::kString) {
+    if (t[i].kind == Tok::kParam) {
+      out.binds.push_back({values[i], Bind::Part::kValue});
+      t[i].text = "?" + std::to_string(out.binds.size());
+    } else if (t[i].kind == Tok::kPunct && t[i].text == "&") {
+      t[i].text = "||";
+    }
+  }
+  // Parameters are numbered now; the value of "?N" is binds[N - 1].
+  auto value_of = [&](size_t param) { return out.binds[std::stoul(t[param].text.substr(1)) - 1].value; };
+  size_t candidate = 0;
+  for (size_t i = 0; i < t.size(); ++i) {
+    size_t begin, param;
+    if (!Is(t, i, "LIKE") || !RangeableLike(t, i, indexed, &begin, &param) ||
+        shape.values[value_of(param)].kind != Literal::Kind::kText) {
       continue;
     }
-    size_t begin = column;
-    const size_t dot = Prev(t, column);
-    if (Is(t, dot, ".") && dot > 0 && t[dot - 1].kind == Tok::kWord) begin = dot - 1;
-    std::string low, high;
-    if (!StartsTerm(t, Prev(t, begin)) || !EndsTerm(t, Next(t, literal + 1)) ||
-        indexed.find(LCase(t[column].text)) == indexed.end() ||
-        !PrefixRange(t[literal].text, &low, &high)) {
-      continue;
-    }
+    if (candidate >= ranged.size() || !ranged[candidate++]) continue;
     std::string ref;
-    for (size_t k = begin; k <= column; ++k) ref += t[k].text;
-    const std::string term = "(" + ref + " LIKE " + t[literal].text + " AND " + ref + " >= " +
-                             Quote(low) + " AND " + ref + " < " + Quote(high) + ")";
-    t.erase(t.begin() + begin, t.begin() + literal + 1);
+    for (size_t k = begin; k < i; ++k) {
+      if (t[k].kind != Tok::kSpace) ref += t[k].text;
+    }
+    const size_t value = value_of(param);
+    out.binds.push_back({value, Bind::Part::kLow});
+    const std::string low = "?" + std::to_string(out.binds.size());
+    out.binds.push_back({value, Bind::Part::kHigh});
+    const std::string high = "?" + std::to_string(out.binds.size());
+    const std::string term = "(" + ref + " LIKE " + t[param].text + " AND " + ref + " >= " + low +
+                             " AND " + ref + " < " + high + ")";
+    t.erase(t.begin() + begin, t.begin() + param + 1);
     t.insert(t.begin() + begin, {Tok::kPunct, term});
     i = begin;
   }
-}
-
-}  // namespace
-
-std::string TranslateSql(std::string_view sql, const IndexedTextColumns& indexed) {
-  Tokens tokens = Tokenize(sql);
-  RewriteTop(tokens);
-  AddInsertColumns(tokens);
-  AddLikeRanges(tokens, indexed);
-  std::string out;
-  out.reserve(sql.size() + 32);
-  for (const Token& token : tokens) out += token.text;
+  RewriteTop(t);
+  AddInsertColumns(t);
+  out.sql.reserve(shape.key.size() + 32);
+  for (const Token& token : t) out.sql += token.text;
   return out;
 }
 

@@ -129,8 +129,17 @@ void EngineConnection::Configure(bool write_ahead_log) {
   identity_ = InspectFile(path_);
 }
 
+BoundStatement EngineConnection::Prepare(std::string_view sql) {
+  return statements_.Prepare(handle_.get(), sql, indexed_);
+}
+
 std::string EngineConnection::Translate(std::string_view sql) const {
-  return TranslateSql(sql, indexed_);
+  return InlinedSql(ShapeOf(sql), indexed_);
+}
+
+void EngineConnection::TablesChanged() {
+  statements_.Clear();
+  indexed_ = FindIndexedTextColumns(handle_.get());
 }
 
 bool EngineConnection::IsCurrent() const {
@@ -155,6 +164,7 @@ std::shared_ptr<EngineConnection> AcquireConnection(const std::string& path, boo
     if (it->path != path || it->read_only != read_only) continue;
     if (it->connection->IsCurrent()) {
       kept.splice(kept.begin(), kept, it);
+      it->connection->inserted_key().Forget();  // a key read back belongs to its own call
       sqlite3_busy_timeout(it->connection->db(), static_cast<int>(g_busy_timeout_ms.load()));
       return it->connection;
     }

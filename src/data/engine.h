@@ -24,7 +24,9 @@
 
 #include "data/dialect.h"
 #include "data/file_identity.h"
+#include "data/inserted_key.h"
 #include "data/sqlite.h"
+#include "data/statement_cache.h"
 
 namespace zerbal::data {
 
@@ -53,8 +55,20 @@ class EngineConnection {
   sqlite3* db() const { return handle_.get(); }
   const std::string& path() const { return path_; }
 
-  // The statement in the engine's own SQL (see dialect.h).
+  // The statement prepared (once per shape) with this call's values bound.
+  // Raises 3075, 3129 or 3142 for text that cannot run (see dialect.h).
+  BoundStatement Prepare(std::string_view sql);
+
+  // The statement in the engine's own SQL, values written in (see dialect.h).
   std::string Translate(std::string_view sql) const;
+
+  // The key of this connection's own last insert, for the query that
+  // reads it back (see inserted_key.h).
+  InsertedKey& inserted_key() { return inserted_key_; }
+
+  // After a change of the tables: kept statements and indexes are looked
+  // at again.
+  void TablesChanged();
 
   // Whether this connection still stands for what is at its path: the file
   // is the one it opened and nobody has written it since its last use here.
@@ -72,6 +86,8 @@ class EngineConnection {
   std::string path_;
   FileIdentity identity_;
   IndexedTextColumns indexed_;
+  StatementCache statements_;  // finalized before the handle closes
+  InsertedKey inserted_key_;
 };
 
 // The connection for `path` on this thread: a kept one when it is still

@@ -6,6 +6,10 @@ list(APPEND ZERBAL_SOURCES
   data/database.cc
   data/databases.cc
   data/dialect.cc
+  data/inserted_key.cc
+  data/sql_lexer.cc
+  data/sql_shape.cc
+  data/statement_cache.cc
   data/engine.cc
   data/collation.cc
   data/file_identity.cc

@@ -1,5 +1,6 @@
 #include "data/sqlite.h"
 
+#include <limits>
 #include <string>
 
 #include "base/raise.h"
@@ -73,6 +74,27 @@ Statement& Statement::operator=(Statement&& other) noexcept {
 }
 
 Statement::~Statement() { sqlite3_finalize(stmt_); }
+
+Variant ColumnValue(sqlite3_stmt* stmt, int column) {
+  switch (sqlite3_column_type(stmt, column)) {
+    case SQLITE_NULL:
+      return Variant::Null();
+    case SQLITE_INTEGER: {
+      const int64_t n = sqlite3_column_int64(stmt, column);
+      // The original engine has no wider whole number than 32 bits.
+      if (n >= std::numeric_limits<int32_t>::min() && n <= std::numeric_limits<int32_t>::max()) {
+        return Variant(static_cast<int32_t>(n));
+      }
+      return Variant(static_cast<double>(n));
+    }
+    case SQLITE_FLOAT:
+      return Variant(sqlite3_column_double(stmt, column));
+    default: {
+      const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, column));
+      return Variant(std::string(text ? text : "", sqlite3_column_bytes(stmt, column)));
+    }
+  }
+}
 
 Statement PrepareOne(sqlite3* db, std::string_view sql) {
   sqlite3_stmt* raw = nullptr;

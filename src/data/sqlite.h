@@ -8,6 +8,8 @@
 
 #include <string_view>
 
+#include "zerbal/variant.h"
+
 namespace zerbal::data {
 
 // Source of every error that the database layer raises.
@@ -55,6 +57,11 @@ class Statement {
  private:
   sqlite3_stmt* stmt_ = nullptr;
 };
+
+// The value of column `column` of the current row as the original engine
+// gives it: Null, a 32-bit whole number (wider ones as a Double), a Double
+// or a String.
+Variant ColumnValue(sqlite3_stmt* stmt, int column);
 
 // Prepares the one statement that `sql` must hold. Text with a second
 // statement after the first is refused whole (3142); text with no statement

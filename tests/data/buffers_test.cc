@@ -75,7 +75,7 @@ TEST_F(BuffersTest, PositionsAreSixteenBitNumbers) {
   }
   EXPECT_RAISES(Load("SELECT Idioma FROM tGeneral", 2), 6) << "32,768 rows";
   EXPECT_RAISES(Load("SELECT Idioma FROM tGeneral", 1), 6);
-  Conexion().execute("DELETE FROM tGeneral WHERE rowid = (SELECT MAX(rowid) FROM tGeneral)");
+  test::Exec(mod_, "DELETE FROM tGeneral WHERE rowid = (SELECT MAX(rowid) FROM tGeneral)");
   EXPECT_EQ(Load("SELECT Idioma FROM tGeneral", 2).AsArray().UBound(2), 32767) << "32,767 rows";
   EXPECT_EQ(Load("SELECT Idioma FROM tGeneral", 1).AsArray().UBound(), 32766);
 }

@@ -130,7 +130,7 @@ TEST_F(DialectTest, InsertSelectFillsColumnsByNameAndCountersAreNeverReused) {
   Run("INSERT INTO TDeclaraciones ( coddecr, ejercicio, moneda ) VALUES ( 7, 2013, 'E')");
   Run("insert into tDeclaraciones  select coddecr,ejercicio,moneda from tDeclaraciones where "
       "coddecla = 1");
-  EXPECT_EQ(Column("Select coddecla || '/' || coddecr || '/' || ejercicio From TDeclaraciones "
+  EXPECT_EQ(Column("Select coddecla & '/' & coddecr & '/' & ejercicio From TDeclaraciones "
                    "order by coddecla"),
             (Strings{"1/7/2013", "2/7/2013"}));
   Run("DELETE FROM TDeclaraciones WHERE coddecla = 2");

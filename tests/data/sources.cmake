@@ -3,6 +3,9 @@ list(APPEND ZERBAL_TEST_SOURCES
   data/conexion_test.cc
   data/databases_test.cc
   data/dialect_test.cc
+  data/injection_test.cc
+  data/keys_test.cc
   data/open_test.cc
   data/replace_test.cc
+  data/statement_cache_test.cc
 )
