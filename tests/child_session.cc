@@ -1,5 +1,6 @@
 #include "child_session.h"
 
+#include <fcntl.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -16,7 +17,11 @@ namespace zerbal::test {
 ChildSession::ChildSession() {
   int in[2];
   int out[2];
-  if (::pipe(in) != 0 || ::pipe(out) != 0) throw std::runtime_error("pipe failed");
+  // Close-on-exec, so that a child started by another thread never holds
+  // these pipes open (its own copies on 0 and 1 are made by the spawn).
+  if (::pipe2(in, O_CLOEXEC) != 0 || ::pipe2(out, O_CLOEXEC) != 0) {
+    throw std::runtime_error("pipe failed");
+  }
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   posix_spawn_file_actions_adddup2(&actions, in[0], 0);

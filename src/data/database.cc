@@ -27,7 +27,7 @@ Database& Database::operator=(Database&& other) noexcept {
 Database::~Database() { Close(); }
 
 EngineConnection& Database::Connection() const {
-  if (!connection_) Raise(errc::kObjectClosed, {}, kEngineSource);
+  if (!connection_ || connection_->retired()) Raise(errc::kObjectClosed, {}, kEngineSource);
   return *connection_;
 }
 
@@ -42,8 +42,8 @@ void Database::Execute(std::string_view sql, int options) {
   // Even a failed statement may have written (and rolled back) pages.
   conn.NoteOwnWrite();
   if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
-  if (stmt.shape().definition) conn.TablesChanged();
-  conn.inserted_key().AfterStatement(conn.db(), stmt.shape());
+  if (stmt.definition()) conn.TablesChanged();
+  conn.inserted_key().AfterStatement(conn.db(), stmt.key_use());
 }
 
 Recordset Database::OpenRecordset(std::string_view sql, int type) {
@@ -53,7 +53,7 @@ Recordset Database::OpenRecordset(std::string_view sql, int type) {
   if (columns == 0) Raise(errc::kInvalidOperation, {}, kEngineSource);
   auto state = std::make_shared<RecordsetState>();
   for (int c = 0; c < columns; ++c) state->names.emplace_back(sqlite3_column_name(stmt.get(), c));
-  if (const auto key = conn.inserted_key().ReadBack(conn.db(), stmt.shape())) {
+  if (const auto key = conn.inserted_key().ReadBack(conn.db(), stmt.key_use())) {
     state->values.push_back(Variant(static_cast<int32_t>(*key)));
     state->rows = 1;
   } else {

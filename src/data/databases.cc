@@ -54,7 +54,7 @@ void Build(const fs::path& file, const std::vector<std::string_view>& scripts) {
     if (text.empty()) Raise(errc::kFileNotFound, name);
     sql.append(text).append("\n");
   }
-  sql += "COMMIT;";
+  sql += "COMMIT; PRAGMA journal_mode = WAL;";
   data::ExecScript(db.get(), sql);
 }
 

@@ -137,22 +137,23 @@ bool PrefixRange(std::string_view pattern, std::string* low, std::string* high) 
   return true;
 }
 
-std::vector<size_t> RangeCandidates(const Shape& shape, const IndexedTextColumns& indexed) {
+std::vector<size_t> RangeCandidates(const Tokens& tokens, const std::vector<Literal>& literals,
+                                    const IndexedTextColumns& indexed) {
   std::vector<size_t> candidates;
-  const std::vector<size_t> values = ParamValues(shape.tokens);
-  for (size_t i = 0; i < shape.tokens.size(); ++i) {
+  const std::vector<size_t> values = ParamValues(tokens);
+  for (size_t i = 0; i < tokens.size(); ++i) {
     size_t begin, param;
-    if (Is(shape.tokens, i, "LIKE") && RangeableLike(shape.tokens, i, indexed, &begin, &param) &&
-        shape.values[values[param]].kind == Literal::Kind::kText) {
+    if (Is(tokens, i, "LIKE") && RangeableLike(tokens, i, indexed, &begin, &param) &&
+        literals[values[param]].kind == Literal::Kind::kText) {
       candidates.push_back(values[param]);
     }
   }
   return candidates;
 }
 
-Translation Translate(const Shape& shape, const IndexedTextColumns& indexed,
-                      const std::vector<bool>& ranged) {
-  Tokens t = shape.tokens;
+Translation Translate(const Tokens& tokens, const std::vector<Literal>& literals,
+                      const IndexedTextColumns& indexed, const std::vector<bool>& ranged) {
+  Tokens t = tokens;
   Translation out;
   const std::vector<size_t> values = ParamValues(t);
   for (size_t i = 0; i < t.size(); ++i) {
@@ -169,7 +170,7 @@ Translation Translate(const Shape& shape, const IndexedTextColumns& indexed,
   for (size_t i = 0; i < t.size(); ++i) {
     size_t begin, param;
     if (!Is(t, i, "LIKE") || !RangeableLike(t, i, indexed, &begin, &param) ||
-        shape.values[value_of(param)].kind != Literal::Kind::kText) {
+        literals[value_of(param)].kind != Literal::Kind::kText) {
       continue;
     }
     if (candidate >= ranged.size() || !ranged[candidate++]) continue;
@@ -190,7 +191,6 @@ Translation Translate(const Shape& shape, const IndexedTextColumns& indexed,
   }
   RewriteTop(t);
   AddInsertColumns(t);
-  out.sql.reserve(shape.key.size() + 32);
   for (const Token& token : t) out.sql += token.text;
   return out;
 }

@@ -46,20 +46,27 @@ struct Literal {
 };
 
 struct Shape {
-  Tokens tokens;                // the statement, each lifted value a kParam token
+  std::string text;             // the statement, each lifted value a "?"
   std::vector<Literal> values;  // the lifted values, in order
-  std::string key;              // the text of `tokens`
+  std::string key;              // the text, and the kind of each value
   bool definition = false;      // CREATE, ALTER or DROP: nothing lifted
 };
 
-// Raises 3075 for text the original engine would have rejected, 3129 for a
-// statement that is not SELECT, INSERT, UPDATE, DELETE or a table
-// definition.
+// Raises 3129 for a statement that is not SELECT, INSERT, UPDATE, DELETE or
+// a table definition, 3142 for text after its end, 3075 for a value the
+// original engine would not read (an unclosed text, a number that is not
+// plain digits).
 Shape ShapeOf(std::string_view sql);
+
+// Raises 3075 for a shape (the tokens of its text) that the original engine
+// would have rejected. What it looks at is all in the shape's key: once
+// per key is enough.
+void CheckShape(const Tokens& tokens, bool definition);
 
 // The lifted values that a LIKE on an indexed text column compares with:
 // a range can be added for each of them whose pattern has a fixed prefix.
-std::vector<size_t> RangeCandidates(const Shape& shape, const IndexedTextColumns& indexed);
+std::vector<size_t> RangeCandidates(const Tokens& tokens, const std::vector<Literal>& values,
+                                    const IndexedTextColumns& indexed);
 
 // The fixed beginning of a LIKE pattern that a range can serve, and the
 // texts that bound the range; false when there is none.
@@ -79,8 +86,8 @@ struct Translation {
 
 // `ranged[k]` says whether RangeCandidates' k-th value gets its range.
 // Raises 3075 for an INSERT ... SELECT whose selected columns have no name.
-Translation Translate(const Shape& shape, const IndexedTextColumns& indexed,
-                      const std::vector<bool>& ranged);
+Translation Translate(const Tokens& tokens, const std::vector<Literal>& values,
+                      const IndexedTextColumns& indexed, const std::vector<bool>& ranged);
 
 }  // namespace zerbal::data
 

@@ -22,6 +22,34 @@ int FoldedCollation(void*, int size_a, const void* a, int size_b, const void* b)
                        std::string_view(static_cast<const char*>(b), static_cast<size_t>(size_b)));
 }
 
+// After every commit: the log's pages go into the file and the log is cut
+// to nothing, so no log with content is left beside the file between
+// calls. It does not wait: while another process is reading or writing the
+// log stays, and the next change, of whichever process, empties it. (Waiting
+// here could wait for a process that waits for this one.)
+int EmptyLog(void*, sqlite3* db, const char* name, int) {
+  sqlite3_busy_handler(db, nullptr, nullptr);
+  sqlite3_wal_checkpoint_v2(db, name, SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr);
+  sqlite3_busy_timeout(db, static_cast<int>(g_busy_timeout_ms.load()));
+  return SQLITE_OK;
+}
+
+// The URI that opens `path` read-only, as a file nobody changes.
+std::string ImmutableUri(const std::string& path) {
+  std::string uri = "file:";
+  for (char c : path) {
+    if (c == '%' || c == '?' || c == '#') {
+      static constexpr char kHex[] = "0123456789ABCDEF";
+      uri += '%';
+      uri += kHex[(static_cast<unsigned char>(c) >> 4) & 0xF];
+      uri += kHex[static_cast<unsigned char>(c) & 0xF];
+    } else {
+      uri += c;
+    }
+  }
+  return uri + "?mode=ro&immutable=1";
+}
+
 void LikeFunction(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
   if (sqlite3_value_type(argv[0]) == SQLITE_NULL || sqlite3_value_type(argv[1]) == SQLITE_NULL) {
     sqlite3_result_null(ctx);
@@ -88,18 +116,28 @@ std::shared_ptr<EngineConnection> EngineConnection::Open(const std::string& path
   PrepareEngine();
   const FileIdentity id = InspectFile(path);
   const FileHeader header = ReadOwnHeader(path, kApplicationId);
+  // In a folder that cannot be written the engine cannot keep the log's
+  // index beside the file: the file is read as it stands. Nobody writes it
+  // meanwhile through this folder, and any change is seen by the file's
+  // identity and opened afresh.
+  const bool folder_read_only = FolderReadOnly(path, id);
+  const bool only_read = read_only || folder_read_only || FileReadOnly(path, id);
+  const std::string name = folder_read_only ? ImmutableUri(path) : path;
+  int flags = (only_read ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX |
+              SQLITE_OPEN_EXRESCODE;
+  if (folder_read_only) flags |= SQLITE_OPEN_URI;
   sqlite3* raw = nullptr;
-  const int flags = (read_only || OnlyReadable(path, id) ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) |
-                    SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
-  const int rc = sqlite3_open_v2(path.c_str(), &raw, flags, nullptr);
+  const int rc = sqlite3_open_v2(name.c_str(), &raw, flags, nullptr);
   DbHandle handle(raw);
   if (rc != SQLITE_OK) RaiseEngineError(rc, raw);
   std::shared_ptr<EngineConnection> conn(new EngineConnection(std::move(handle), path, id));
-  conn->Configure(header.write_ahead_log);
+  conn->Configure(header.write_ahead_log, only_read);
   return conn;
 }
 
-void EngineConnection::Configure(bool write_ahead_log) {
+EngineConnection::~EngineConnection() { Retire(); }
+
+void EngineConnection::Configure(bool write_ahead_log, bool read_only) {
   sqlite3* db = handle_.get();
   sqlite3_extended_result_codes(db, 1);
   sqlite3_busy_timeout(db, static_cast<int>(g_busy_timeout_ms.load()));
@@ -109,24 +147,24 @@ void EngineConnection::Configure(bool write_ahead_log) {
   Check(sqlite3_create_function(db, "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr,
                                 LikeFunction, nullptr, nullptr),
         db);
-  // A file an earlier version left with a write-ahead log goes back to the
-  // rollback journal, which leaves nothing beside the file between calls.
-  if (write_ahead_log) {
-    Statement mode = PrepareOne(db, "PRAGMA journal_mode = DELETE");
-    const int rc = sqlite3_step(mode.get());
-    if (rc != SQLITE_ROW) RaiseEngineError(rc, db);
-    const auto* now = reinterpret_cast<const char*>(sqlite3_column_text(mode.get(), 0));
-    // Another connection still using the log keeps the file in that mode.
-    if (now == nullptr || std::string_view(now) != "delete") {
-      Raise(errc::kLocked, path_ + ": in use with a write-ahead log", kEngineSource);
-    }
-  }
+  if (!write_ahead_log && !read_only) QueryInt(db, "PRAGMA journal_mode = WAL");
   // Every call's changes reach the operating system before the call returns,
   // so they survive a crash of the program; flushing them to the disk on
   // every call would cost one to two milliseconds a call.
   QueryInt(db, "PRAGMA synchronous = OFF");
+  // The log is emptied into the file after every change (see engine.h).
+  sqlite3_wal_hook(db, EmptyLog, nullptr);
   indexed_ = FindIndexedTextColumns(db);
   identity_ = InspectFile(path_);
+}
+
+void EngineConnection::Retire() {
+  if (!handle_.get()) return;
+  statements_.Clear();
+  // A connection whose file was replaced must not checkpoint, nor delete the
+  // log and index that now sit beside another file: it just lets go.
+  if (!IsCurrent()) sqlite3_db_config(handle_.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  handle_ = DbHandle();
 }
 
 BoundStatement EngineConnection::Prepare(std::string_view sql) {
@@ -134,7 +172,7 @@ BoundStatement EngineConnection::Prepare(std::string_view sql) {
 }
 
 std::string EngineConnection::Translate(std::string_view sql) const {
-  return InlinedSql(ShapeOf(sql), indexed_);
+  return InlinedSql(sql, indexed_);
 }
 
 void EngineConnection::TablesChanged() {
@@ -168,12 +206,16 @@ std::shared_ptr<EngineConnection> AcquireConnection(const std::string& path, boo
       sqlite3_busy_timeout(it->connection->db(), static_cast<int>(g_busy_timeout_ms.load()));
       return it->connection;
     }
+    it->connection->Retire();  // before the file at the path is opened again
     kept.erase(it);
     break;
   }
   auto conn = EngineConnection::Open(path, read_only);
   kept.push_front({path, read_only, conn});
-  if (kept.size() > kKeptConnections) kept.pop_back();
+  if (kept.size() > kKeptConnections) {
+    kept.back().connection->Retire();
+    kept.pop_back();
+  }
   return conn;
 }
 

@@ -8,9 +8,11 @@
 // size, times and write permission). Anything else, a file renamed or
 // copied into place or written by another process, is opened afresh.
 //
-// Files use a rollback journal, which exists only while a statement writes:
-// between calls there is no log beside a database that a file put in its
-// place could be paired with.
+// Files use a write-ahead log, emptied into the file and cut to nothing
+// after every change: between calls there is no log with content beside a
+// database that a file put in its place could be paired with. A connection
+// whose file was replaced is let go without touching the log and index
+// beside the path, which belong to the new file.
 
 #ifndef ZERBAL_DATA_ENGINE_H_
 #define ZERBAL_DATA_ENGINE_H_
@@ -52,7 +54,16 @@ class EngineConnection {
   // opened read-only, so reads work and writes fail with 3027.
   static std::shared_ptr<EngineConnection> Open(const std::string& path, bool read_only);
 
+  ~EngineConnection();
+  EngineConnection(const EngineConnection&) = delete;
+  EngineConnection& operator=(const EngineConnection&) = delete;
+
   sqlite3* db() const { return handle_.get(); }
+
+  // Closes the engine connection (its statements first); any later use
+  // through a database that still holds it raises 3420.
+  void Retire();
+  bool retired() const { return handle_.get() == nullptr; }
   const std::string& path() const { return path_; }
 
   // The statement prepared (once per shape) with this call's values bound.
@@ -80,7 +91,7 @@ class EngineConnection {
  private:
   EngineConnection(DbHandle handle, std::string path, FileIdentity identity)
       : handle_(std::move(handle)), path_(std::move(path)), identity_(identity) {}
-  void Configure(bool write_ahead_log);
+  void Configure(bool write_ahead_log, bool read_only);
 
   DbHandle handle_;
   std::string path_;

@@ -55,9 +55,11 @@ FileIdentity InspectFile(const std::string& path) {
   return id;
 }
 
-bool OnlyReadable(const std::string& path, const FileIdentity& identity) {
-  if (NoWriteBits(identity.mode) || ::access(path.c_str(), W_OK) != 0) return true;
-  // Without a writable folder the engine cannot write its rollback journal.
+bool FileReadOnly(const std::string& path, const FileIdentity& identity) {
+  return NoWriteBits(identity.mode) || ::access(path.c_str(), W_OK) != 0;
+}
+
+bool FolderReadOnly(const std::string& path, const FileIdentity& identity) {
   return NoWriteBits(identity.folder_mode) || ::access(FolderOf(path).c_str(), W_OK) != 0;
 }
 

@@ -26,9 +26,12 @@ struct FileIdentity {
 // missing folder or an empty path 3044, anything but a regular file 3051.
 FileIdentity InspectFile(const std::string& path);
 
-// Whether the database at `path` can only be read: no write permission on
-// the file, or on its folder, where the engine writes its journal.
-bool OnlyReadable(const std::string& path, const FileIdentity& identity);
+// Whether the file at `path` may not be written.
+bool FileReadOnly(const std::string& path, const FileIdentity& identity);
+
+// Whether nothing may be written in the folder of `path` (where the engine
+// keeps its log and index beside the database).
+bool FolderReadOnly(const std::string& path, const FileIdentity& identity);
 
 // The first bytes of a database file, as far as the layer reads them.
 struct FileHeader {

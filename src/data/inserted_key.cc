@@ -6,19 +6,6 @@
 namespace zerbal::data {
 namespace {
 
-// The non-blank tokens of a shape.
-std::vector<const Token*> Words(const Shape& shape) {
-  std::vector<const Token*> words;
-  for (const Token& token : shape.tokens) {
-    if (token.kind != Tok::kSpace) words.push_back(&token);
-  }
-  return words;
-}
-
-bool Same(const Token* token, std::string_view upper) {
-  return SameText(token->text, upper);
-}
-
 bool IsCounter(sqlite3* db, const std::string& table, const std::string& column) {
   const char* type = nullptr;
   int primary = 0;
@@ -31,30 +18,43 @@ bool IsCounter(sqlite3* db, const std::string& table, const std::string& column)
 
 }  // namespace
 
-void InsertedKey::AfterStatement(sqlite3* db, const Shape& shape) {
-  const std::vector<const Token*> w = Words(shape);
-  const bool insert = w.size() > 2 && Same(w[0], "INSERT") && Same(w[1], "INTO") &&
-                      w[2]->kind == Tok::kWord;
-  if (insert && sqlite3_changes(db) == 1) {
-    table_ = LCase(w[2]->text);
+KeyUse KeyUseOf(const Tokens& tokens) {
+  std::vector<const Token*> w;  // the tokens but blanks
+  for (const Token& token : tokens) {
+    if (token.kind != Tok::kSpace) w.push_back(&token);
+  }
+  auto same = [&](size_t i, std::string_view upper) {
+    return i < w.size() && SameText(w[i]->text, upper);
+  };
+  KeyUse use;
+  if (same(0, "INSERT") && same(1, "INTO") && w.size() > 2 && w[2]->kind == Tok::kWord) {
+    use.insert_table = LCase(w[2]->text);
+  }
+  // SELECT MAX ( column ) FROM table
+  if (w.size() == 7 && same(0, "SELECT") && same(1, "MAX") && w[2]->text == "(" &&
+      w[3]->kind == Tok::kWord && w[4]->text == ")" && same(5, "FROM") &&
+      w[6]->kind == Tok::kWord) {
+    use.max_table = LCase(w[6]->text);
+    use.max_column = w[3]->text;
+  }
+  return use;
+}
+
+void InsertedKey::AfterStatement(sqlite3* db, const KeyUse& use) {
+  if (!use.insert_table.empty() && sqlite3_changes(db) == 1) {
+    table_ = use.insert_table;
     key_ = sqlite3_last_insert_rowid(db);
   } else {
     table_.clear();
   }
 }
 
-std::optional<int64_t> InsertedKey::ReadBack(sqlite3* db, const Shape& shape) {
-  const std::string table = std::move(table_);
+std::optional<int64_t> InsertedKey::ReadBack(sqlite3* db, KeyUse& use) {
+  const bool match = !table_.empty() && use.max_table == table_;
   table_.clear();
-  if (table.empty()) return std::nullopt;
-  // SELECT MAX ( column ) FROM table
-  const std::vector<const Token*> w = Words(shape);
-  if (w.size() != 7 || !Same(w[0], "SELECT") || !Same(w[1], "MAX") || w[2]->text != "(" ||
-      w[3]->kind != Tok::kWord || w[4]->text != ")" || !Same(w[5], "FROM") ||
-      w[6]->kind != Tok::kWord || LCase(w[6]->text) != table ||
-      !IsCounter(db, w[6]->text, w[3]->text)) {
-    return std::nullopt;
-  }
+  if (!match) return std::nullopt;
+  if (use.counter < 0) use.counter = IsCounter(db, use.max_table, use.max_column) ? 1 : 0;
+  if (use.counter == 0) return std::nullopt;
   return key_;
 }
 

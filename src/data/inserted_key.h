@@ -14,19 +14,29 @@
 #include <optional>
 #include <string>
 
-#include "data/dialect.h"
+#include "data/sql_lexer.h"
 
 namespace zerbal::data {
+
+// What a statement has to do with keys, read once per shape.
+struct KeyUse {
+  std::string insert_table;  // INSERT INTO this table (lower case)
+  std::string max_table;     // SELECT MAX(max_column) FROM this table
+  std::string max_column;
+  int counter = -1;          // whether max_column is the table's counter; -1 not yet known
+};
+
+KeyUse KeyUseOf(const Tokens& tokens);
 
 class InsertedKey {
  public:
   // After each statement that ran to its end: remembers the key of a
   // one-row INSERT, forgets it after anything else.
-  void AfterStatement(sqlite3* db, const Shape& shape);
+  void AfterStatement(sqlite3* db, const KeyUse& use);
 
-  // The remembered key when `shape` is the query that reads it back; it is
+  // The remembered key when `use` is the query that reads it back; it is
   // forgotten either way.
-  std::optional<int64_t> ReadBack(sqlite3* db, const Shape& shape);
+  std::optional<int64_t> ReadBack(sqlite3* db, KeyUse& use);
 
   void Forget() { table_.clear(); }
 

@@ -1,6 +1,8 @@
 #include "data/sql_lexer.h"
 
+#include <array>
 #include <cctype>
+#include <cstdint>
 
 #include "base/raise.h"
 #include "data/sqlite.h"
@@ -8,53 +10,48 @@
 namespace zerbal::data {
 namespace {
 
-bool IsSpace(char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; }
-bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
+// Classes of bytes, in the C locale whatever the program's is.
+enum : uint8_t { kSpaceByte = 1, kDigitByte = 2, kWordByte = 4 };
 
-bool IsWordByte(char c) {
-  const auto u = static_cast<unsigned char>(c);
-  return std::isalnum(u) || c == '_' || u >= 0x80;
-}
+constexpr std::array<uint8_t, 256> kByteClass = [] {
+  std::array<uint8_t, 256> table{};
+  for (int c : {' ', '\t', '\n', '\v', '\f', '\r'}) table[c] = kSpaceByte;
+  for (int c = '0'; c <= '9'; ++c) table[c] = kDigitByte | kWordByte;
+  for (int c = 'A'; c <= 'Z'; ++c) table[c] = table[c + 32] = kWordByte;
+  table['_'] = kWordByte;
+  for (int c = 0x80; c < 0x100; ++c) table[c] = kWordByte;  // letters beyond ASCII
+  return table;
+}();
+
+bool IsSpace(char c) { return kByteClass[static_cast<unsigned char>(c)] & kSpaceByte; }
+bool IsDigit(char c) { return kByteClass[static_cast<unsigned char>(c)] & kDigitByte; }
+bool IsWordByte(char c) { return kByteClass[static_cast<unsigned char>(c)] & kWordByte; }
 
 [[noreturn]] void Unclosed(std::string_view sql, size_t pos) {
   Raise(errc::kSyntaxError, sql.substr(pos, 40), kEngineSource);
 }
 
-// Length of the token that starts at `pos`, and its kind.
-size_t Scan(std::string_view sql, size_t pos, Tok* kind) {
+}  // namespace
+
+size_t ScanToken(std::string_view sql, size_t pos, Tok* kind) {
   const char c = sql[pos];
-  auto until = [&](size_t from, std::string_view close) -> size_t {
-    const size_t end = sql.find(close, from);
-    if (end == std::string_view::npos) Unclosed(sql, pos);
-    return end + close.size() - pos;
+  const char next = pos + 1 < sql.size() ? sql[pos + 1] : '\0';
+  auto until = [&](size_t from, char close, char close2) -> size_t {
+    for (size_t k = from; k < sql.size(); ++k) {
+      if (sql[k] == close && (close2 == '\0' || (k + 1 < sql.size() && sql[k + 1] == close2))) {
+        return k + (close2 == '\0' ? 1 : 2) - pos;
+      }
+    }
+    Unclosed(sql, pos);
   };
   auto run = [&](auto belongs) {
-    size_t k = pos;
+    size_t k = pos + 1;
     while (k < sql.size() && belongs(sql[k])) ++k;
     return k - pos;
   };
+  if (IsWordByte(c) && !IsDigit(c)) return *kind = Tok::kWord, run(IsWordByte);
   if (IsSpace(c)) return *kind = Tok::kSpace, run(IsSpace);
-  if (sql.substr(pos, 2) == "--") {
-    *kind = Tok::kComment;
-    const size_t end = sql.find('\n', pos);
-    return (end == std::string_view::npos ? sql.size() : end) - pos;
-  }
-  if (sql.substr(pos, 2) == "/*") return *kind = Tok::kComment, until(pos + 2, "*/");
-  if (c == '\'') {
-    *kind = Tok::kString;
-    for (size_t k = pos + 1; k < sql.size(); ++k) {
-      if (sql[k] != '\'') continue;
-      if (k + 1 < sql.size() && sql[k + 1] == '\'') {
-        ++k;
-        continue;
-      }
-      return k + 1 - pos;
-    }
-    Unclosed(sql, pos);
-  }
-  if (c == '[') return *kind = Tok::kQuoted, until(pos + 1, "]");
-  if (c == '"' || c == '`') return *kind = Tok::kQuoted, until(pos + 1, std::string_view(&c, 1));
-  if (IsDigit(c) || (c == '.' && pos + 1 < sql.size() && IsDigit(sql[pos + 1]))) {
+  if (IsDigit(c) || (c == '.' && IsDigit(next))) {
     *kind = Tok::kNumber;
     size_t k = pos;
     while (k < sql.size()) {
@@ -65,24 +62,50 @@ size_t Scan(std::string_view sql, size_t pos, Tok* kind) {
     }
     return k - pos;
   }
-  if (IsWordByte(c)) return *kind = Tok::kWord, run(IsWordByte);
-  *kind = Tok::kPunct;
-  static constexpr std::string_view kPairs[] = {"<>", "<=", ">=", "!=", "==", "||", "<<", ">>",
-                                                "->"};
-  for (std::string_view pair : kPairs) {
-    if (sql.substr(pos, 2) == pair) return 2;
+  switch (c) {
+    case '\'':
+      *kind = Tok::kString;
+      for (size_t k = pos + 1; k < sql.size(); ++k) {
+        if (sql[k] != '\'') continue;
+        if (k + 1 < sql.size() && sql[k + 1] == '\'') {
+          ++k;
+          continue;
+        }
+        return k + 1 - pos;
+      }
+      Unclosed(sql, pos);
+    case '[': return *kind = Tok::kQuoted, until(pos + 1, ']', '\0');
+    case '"':
+    case '`': return *kind = Tok::kQuoted, until(pos + 1, c, '\0');
+    case '-':
+      if (next == '-') {
+        *kind = Tok::kComment;
+        const size_t end = sql.find('\n', pos);
+        return (end == std::string_view::npos ? sql.size() : end) - pos;
+      }
+      *kind = Tok::kPunct;
+      return next == '>' ? 2 : 1;
+    case '/':
+      if (next == '*') return *kind = Tok::kComment, until(pos + 2, '*', '/');
+      break;
+    case '?': return *kind = Tok::kParam, 1;
+    case '<': return *kind = Tok::kPunct, (next == '>' || next == '=' || next == '<') ? 2 : 1;
+    case '>': return *kind = Tok::kPunct, (next == '=' || next == '>') ? 2 : 1;
+    case '!':
+    case '=': return *kind = Tok::kPunct, next == '=' ? 2 : 1;
+    case '|': return *kind = Tok::kPunct, next == '|' ? 2 : 1;
+    default: break;
   }
+  *kind = Tok::kPunct;
   return 1;
 }
-
-}  // namespace
 
 Tokens Tokenize(std::string_view sql) {
   Tokens tokens;
   tokens.reserve(sql.size() / 3);
   for (size_t pos = 0; pos < sql.size();) {
     Tok kind;
-    const size_t len = Scan(sql, pos, &kind);
+    const size_t len = ScanToken(sql, pos, &kind);
     tokens.push_back({kind, std::string(sql.substr(pos, len))});
     pos += len;
   }

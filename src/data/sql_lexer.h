@@ -28,8 +28,12 @@ struct Token {
 
 using Tokens = std::vector<Token>;
 
-// Splits `sql` into tokens. A text, name or comment that is not closed
-// raises 3075: nothing after it may be taken for a value.
+// Length of the token that starts at byte `pos` of `sql`, and its kind. A
+// text, name or comment that is not closed raises 3075: nothing after it
+// may be taken for a value.
+size_t ScanToken(std::string_view sql, size_t pos, Tok* kind);
+
+// Splits `sql` into tokens (see ScanToken); a "?" is a kParam.
 Tokens Tokenize(std::string_view sql);
 
 // Whether token `i` is the keyword or punctuation `upper` (ASCII, any case).

@@ -2,6 +2,7 @@
 // lifting of values into parameters.
 
 #include <cctype>
+#include <cerrno>
 #include <cstdlib>
 #include <string>
 
@@ -79,30 +80,15 @@ bool IsPlainNumber(std::string_view text) {
   return k == text.size();
 }
 
-// The original engine reads "text" as a text, like 'text'.
-void DoubleQuotedToString(Token& token) {
-  std::string inner;
-  for (size_t k = 1; k + 1 < token.text.size(); ++k) {
-    if (token.text[k] == '"' && token.text[k + 1] == '"') ++k;
-    inner.push_back(token.text[k]);
-  }
-  std::string quoted = "'";
-  for (char c : inner) quoted += c == '\'' ? std::string("''") : std::string(1, c);
-  token = {Tok::kString, quoted + "'"};
-}
 
-void Check(Tokens& t, bool definition) {
+void Check(const Tokens& t, bool definition) {
   for (size_t i = 0; i < t.size(); ++i) {
-    Token& token = t[i];
+    const Token& token = t[i];
     switch (token.kind) {
       case Tok::kComment: Refuse("comment: " + token.text.substr(0, 40));
       case Tok::kQuoted:
         if (token.text[0] == '`') Refuse(token.text);
         if (IsCatalogueName(token.text)) Refuse(token.text);
-        if (token.text[0] == '"') DoubleQuotedToString(token);
-        break;
-      case Tok::kNumber:
-        if (!IsPlainNumber(token.text)) Refuse(token.text);
         break;
       case Tok::kPunct:
         if (IsOneOf(t, i, kForeignOperators)) Refuse(token.text);
@@ -110,7 +96,7 @@ void Check(Tokens& t, bool definition) {
       case Tok::kWord: {
         if (IsOneOf(t, i, kForeignWords) || IsCatalogueName(token.text)) Refuse(token.text);
         const bool blob = (token.text == "x" || token.text == "X") && i + 1 < t.size() &&
-                          t[i + 1].kind == Tok::kString;
+                          (t[i + 1].kind == Tok::kString || t[i + 1].kind == Tok::kParam);
         if (blob) Refuse(token.text + t[i + 1].text);
         if (definition) break;
         const size_t next = Next(t, i + 1);
@@ -126,32 +112,19 @@ void Check(Tokens& t, bool definition) {
   }
 }
 
-// Text after a ";" that ends the statement is a second statement, whatever
-// it holds: the whole text is refused and nothing of it runs.
-void RefuseSecondStatement(const Tokens& t) {
-  for (size_t i = 0; i < t.size(); ++i) {
-    if (t[i].kind != Tok::kPunct || t[i].text != ";") continue;
-    for (size_t k = i + 1; k < t.size(); ++k) {
-      if (t[k].kind == Tok::kSpace || t[k].text == ";") continue;
-      std::string rest;
-      for (size_t j = k; j < t.size() && rest.size() < 60; ++j) rest += t[j].text;
-      Raise(errc::kTextAfterStatement, rest, kEngineSource);
-    }
-    return;
-  }
+Literal TextValue(std::string value) {
+  Literal v;
+  v.text = std::move(value);
+  return v;
 }
 
-Literal ValueOf(const Token& token) {
+Literal NumberValue(std::string_view text) {
+  if (!IsPlainNumber(text)) Refuse(text);
   Literal v;
-  v.text = token.text;
-  if (token.kind == Tok::kString) {
-    v.text = StringValue(token.text);
-    return v;
-  }
-  const bool whole = token.text.find_first_of(".eE") == std::string::npos;
-  errno = 0;
-  if (whole) {
-    const long long n = std::strtoll(token.text.c_str(), nullptr, 10);
+  v.text = std::string(text);
+  if (v.text.find_first_of(".eE") == std::string::npos) {
+    errno = 0;
+    const long long n = std::strtoll(v.text.c_str(), nullptr, 10);
     if (errno == 0) {
       v.kind = Literal::Kind::kInteger;
       v.integer = n;
@@ -159,34 +132,88 @@ Literal ValueOf(const Token& token) {
     }
   }
   v.kind = Literal::Kind::kReal;
-  v.real = std::strtod(token.text.c_str(), nullptr);
+  v.real = std::strtod(v.text.c_str(), nullptr);
   return v;
 }
 
-// Values that stay in the text: the count of TOP, the values of a select
-// list (they name its columns) and the positions of ORDER BY and GROUP BY.
-void Lift(Shape& shape) {
-  Tokens& t = shape.tokens;
-  std::vector<int> kept_depth;  // depths at which values are kept
+// The original engine reads "text" as a text, like 'text'.
+std::string DoubleQuotedValue(std::string_view token) {
+  std::string inner;
+  for (size_t k = 1; k + 1 < token.size(); ++k) {
+    if (token[k] == '"' && token[k + 1] == '"') ++k;
+    inner.push_back(token[k]);
+  }
+  return inner;
+}
+
+// Whether `word` is `upper` in any case (`upper` in capitals, ASCII).
+bool SameWord(std::string_view word, std::string_view upper) {
+  if (word.size() != upper.size()) return false;
+  for (size_t k = 0; k < word.size(); ++k) {
+    if ((word[k] & ~0x20) != upper[k]) return false;
+  }
+  return true;
+}
+
+// Walks the statement once, copying it into the shape's text with each
+// value lifted out. Values stay in the text where they are not values to
+// the engine: the count of TOP, the items of a select list (they name its
+// columns) and the positions of ORDER BY and GROUP BY.
+void Lift(std::string_view sql, Shape& shape) {
+  std::vector<int> kept_depth;  // depths at which values stay
   int depth = 0;
+  bool after_top = false;
   auto kept_here = [&] { return !kept_depth.empty() && kept_depth.back() == depth; };
-  for (size_t i = 0; i < t.size(); ++i) {
-    Token& token = t[i];
-    if (token.text == "(") ++depth;
-    if (token.text == ")") {
-      if (kept_here()) kept_depth.pop_back();
-      --depth;
+  for (size_t pos = 0; pos < sql.size();) {
+    Tok kind;
+    const size_t len = ScanToken(sql, pos, &kind);
+    const std::string_view token = sql.substr(pos, len);
+    pos += len;
+    const bool keep = kept_here() || after_top;
+    if (kind != Tok::kSpace && kind != Tok::kComment) after_top = false;
+    switch (kind) {
+      case Tok::kString:
+      case Tok::kNumber:
+        if (keep) break;
+        shape.values.push_back(kind == Tok::kString ? TextValue(StringValue(token)) : NumberValue(token));
+        shape.text.push_back('?');
+        continue;
+      case Tok::kQuoted:
+        if (token[0] != '"' || keep) break;
+        shape.values.push_back(TextValue(DoubleQuotedValue(token)));
+        shape.text.push_back('?');
+        continue;
+      case Tok::kParam: Refuse(token);
+      case Tok::kPunct:
+        if (token == "(") ++depth;
+        if (token == ")") {
+          if (kept_here()) kept_depth.pop_back();
+          --depth;
+        }
+        if (token == ";") {
+          // Text after the end is a second statement, whatever it holds: the
+          // whole text is refused and nothing of it runs.
+          const size_t rest = sql.find_first_not_of(" \t\r\n;", pos);
+          if (rest != std::string_view::npos) {
+            Raise(errc::kTextAfterStatement, sql.substr(rest, 60), kEngineSource);
+          }
+        }
+        break;
+      case Tok::kWord:
+        if (token.size() > 6) break;
+        if (SameWord(token, "SELECT") || SameWord(token, "BY")) {
+          if (!kept_here()) kept_depth.push_back(depth);
+        } else if (SameWord(token, "FROM") || SameWord(token, "WHERE") ||
+                   SameWord(token, "HAVING") || SameWord(token, "UNION") ||
+                   SameWord(token, "ORDER") || SameWord(token, "GROUP")) {
+          if (kept_here()) kept_depth.pop_back();
+        } else if (SameWord(token, "TOP")) {
+          after_top = true;
+        }
+        break;
+      default: break;
     }
-    if (Is(t, i, "SELECT") || Is(t, i, "BY")) {
-      if (!kept_here()) kept_depth.push_back(depth);
-    } else if (Is(t, i, "FROM") || Is(t, i, "WHERE") || Is(t, i, "HAVING") || Is(t, i, "UNION") ||
-               Is(t, i, "ORDER") || Is(t, i, "GROUP") || token.text == ";") {
-      if (kept_here()) kept_depth.pop_back();
-    }
-    if (token.kind != Tok::kString && token.kind != Tok::kNumber) continue;
-    if (kept_here() || Is(t, Prev(t, i), "TOP")) continue;
-    shape.values.push_back(ValueOf(token));
-    token = {Tok::kParam, "?"};
+    shape.text.append(token);
   }
 }
 
@@ -194,21 +221,27 @@ void Lift(Shape& shape) {
 
 Shape ShapeOf(std::string_view sql) {
   Shape shape;
-  shape.tokens = Tokenize(sql);
-  const size_t first = Next(shape.tokens, 0);
-  auto starts = [&](std::string_view word) { return Is(shape.tokens, first, word); };
+  const size_t begin = sql.find_first_not_of(" \t\r\n(");
+  const std::string_view first =
+      begin == std::string_view::npos ? "" : sql.substr(begin, sql.find_first_of(" \t\r\n(", begin) - begin);
   // Statements of the original engine's language only: no engine-specific
   // commands (ATTACH, PRAGMA, VACUUM, ...), which could reach other files.
-  const bool query = starts("SELECT") || starts("INSERT") || starts("UPDATE") || starts("DELETE") ||
-                     (first < shape.tokens.size() && shape.tokens[first].text == "(");
-  shape.definition = starts("CREATE") || starts("ALTER") || starts("DROP");
+  const bool query = SameWord(first, "SELECT") || SameWord(first, "INSERT") ||
+                     SameWord(first, "UPDATE") || SameWord(first, "DELETE");
+  shape.definition = SameWord(first, "CREATE") || SameWord(first, "ALTER") || SameWord(first, "DROP");
   if (!query && !shape.definition) Raise(errc::kNotAStatement, sql.substr(0, 40), kEngineSource);
-  RefuseSecondStatement(shape.tokens);
-  Check(shape.tokens, shape.definition);
-  if (!shape.definition) Lift(shape);
-  shape.key.reserve(sql.size());
-  for (const Token& token : shape.tokens) shape.key += token.text;
+  shape.text.reserve(sql.size());
+  if (shape.definition) {
+    shape.text = sql;
+  } else {
+    Lift(sql, shape);
+  }
+  shape.key.reserve(shape.text.size() + shape.values.size() + 1);
+  shape.key.append(shape.text).push_back('\0');
+  for (const Literal& v : shape.values) shape.key.push_back(v.kind == Literal::Kind::kText ? 't' : 'n');
   return shape;
 }
+
+void CheckShape(const Tokens& tokens, bool definition) { Check(tokens, definition); }
 
 }  // namespace zerbal::data

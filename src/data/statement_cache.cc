@@ -10,10 +10,11 @@ namespace {
 constexpr size_t kMaxShapes = 512;
 
 // Which of the candidate values get a LIKE range in this call.
-std::vector<bool> RangesTaken(const Shape& shape, const std::vector<size_t>& candidates) {
+std::vector<bool> RangesTaken(const std::vector<Literal>& values,
+                              const std::vector<size_t>& candidates) {
   std::vector<bool> taken;
   std::string low, high;
-  for (size_t value : candidates) taken.push_back(PrefixRange(shape.values[value].text, &low, &high));
+  for (size_t value : candidates) taken.push_back(PrefixRange(values[value].text, &low, &high));
   return taken;
 }
 
@@ -23,15 +24,21 @@ std::string FlagsKey(const std::vector<bool>& taken) {
   return key;
 }
 
-void BindAll(sqlite3* db, sqlite3_stmt* stmt, const Shape& shape, const std::vector<Bind>& binds) {
+// The text a parameter stands for: the value itself or a bound of its range.
+std::string RangeBound(const Literal& v, Bind::Part part) {
+  std::string low, high;
+  PrefixRange(v.text, &low, &high);
+  return part == Bind::Part::kLow ? low : high;
+}
+
+void BindAll(sqlite3* db, sqlite3_stmt* stmt, const std::vector<Literal>& values,
+             const std::vector<Bind>& binds) {
   for (size_t k = 0; k < binds.size(); ++k) {
     const int index = static_cast<int>(k) + 1;
-    const Literal& v = shape.values[binds[k].value];
+    const Literal& v = values[binds[k].value];
     int rc;
     if (binds[k].part != Bind::Part::kValue) {
-      std::string low, high;
-      PrefixRange(v.text, &low, &high);
-      const std::string& bound = binds[k].part == Bind::Part::kLow ? low : high;
+      const std::string bound = RangeBound(v, binds[k].part);
       rc = sqlite3_bind_text(stmt, index, bound.data(), static_cast<int>(bound.size()),
                              SQLITE_TRANSIENT);
     } else if (v.kind == Literal::Kind::kInteger) {
@@ -39,6 +46,7 @@ void BindAll(sqlite3* db, sqlite3_stmt* stmt, const Shape& shape, const std::vec
     } else if (v.kind == Literal::Kind::kReal) {
       rc = sqlite3_bind_double(stmt, index, v.real);
     } else {
+      // The values outlive the statement's run (BoundStatement holds them).
       rc = sqlite3_bind_text(stmt, index, v.text.data(), static_cast<int>(v.text.size()),
                              SQLITE_STATIC);
     }
@@ -55,14 +63,14 @@ std::string SqlLiteral(const Literal& v) {
 
 }  // namespace
 
-BoundStatement::BoundStatement(Shape shape, sqlite3_stmt* stmt, Statement owned, bool* in_use)
-    : shape_(std::move(shape)), stmt_(stmt), owned_(std::move(owned)), in_use_(in_use) {}
-
 BoundStatement::BoundStatement(BoundStatement&& other) noexcept
-    : shape_(std::move(other.shape_)),
+    : values_(std::move(other.values_)),
       stmt_(other.stmt_),
       owned_(std::move(other.owned_)),
-      in_use_(other.in_use_) {
+      in_use_(other.in_use_),
+      definition_(other.definition_),
+      key_use_(other.key_use_),
+      own_key_use_(std::move(other.own_key_use_)) {
   other.stmt_ = nullptr;
   other.in_use_ = nullptr;
 }
@@ -77,72 +85,85 @@ BoundStatement::~BoundStatement() {
 BoundStatement StatementCache::Prepare(sqlite3* db, std::string_view sql,
                                        const IndexedTextColumns& indexed) {
   Shape shape = ShapeOf(sql);
+  BoundStatement bound;
+  bound.definition_ = shape.definition;
+  auto one_off = [&](const Tokens& tokens, const std::vector<bool>& taken) {
+    // A statement run once: a table definition (which changes what the kept
+    // statements mean, so they are forgotten), or one already stepping for
+    // an outer call.
+    Translation translation = Translate(tokens, shape.values, indexed, taken);
+    bound.owned_ = PrepareOne(db, translation.sql);
+    bound.stmt_ = bound.owned_.get();
+    bound.values_ = std::move(shape.values);
+    BindAll(db, bound.stmt_, bound.values_, translation.binds);
+    bound.own_key_use_ = std::make_unique<KeyUse>(KeyUseOf(tokens));
+    bound.key_use_ = bound.own_key_use_.get();
+    return std::move(bound);
+  };
   if (shape.definition) {
-    // Table definitions change what the kept statements mean; they are
-    // prepared once, and the kept ones forgotten.
     Clear();
-    Statement stmt = PrepareOne(db, Translate(shape, indexed, {}).sql);
-    sqlite3_stmt* raw = stmt.get();
-    return BoundStatement(std::move(shape), raw, std::move(stmt), nullptr);
+    const Tokens tokens = Tokenize(shape.text);
+    CheckShape(tokens, true);
+    return one_off(tokens, {});
   }
-  auto found = entries_.find(shape.key);
-  if (found == entries_.end()) {
-    if (entries_.size() >= kMaxShapes) entries_.clear();
-    found = entries_.emplace(shape.key, Entry{RangeCandidates(shape, indexed), {}}).first;
+  std::unique_ptr<Entry>& entry = entries_[shape.key];
+  if (!entry) {
+    auto made = std::make_unique<Entry>();
+    made->tokens = Tokenize(shape.text);
+    CheckShape(made->tokens, false);
+    made->candidates = RangeCandidates(made->tokens, shape.values, indexed);
+    made->key_use = KeyUseOf(made->tokens);
+    if (entries_.size() > kMaxShapes) {
+      entries_.clear();
+      return Prepare(db, sql, indexed);  // after the clear, made again under its key
+    }
+    entry = std::move(made);
   }
-  Entry& entry = found->second;
-  const std::vector<bool> taken = RangesTaken(shape, entry.candidates);
-  std::unique_ptr<Prepared>& variant = entry.variants[FlagsKey(taken)];
-  if (variant && variant->in_use) {
-    // Already stepping for an outer call: this one runs on its own copy.
-    Translation translation = Translate(shape, indexed, taken);
-    Statement stmt = PrepareOne(db, translation.sql);
-    BindAll(db, stmt.get(), shape, translation.binds);
-    sqlite3_stmt* raw = stmt.get();
-    return BoundStatement(std::move(shape), raw, std::move(stmt), nullptr);
-  }
-  if (!variant) {
-    Translation translation = Translate(shape, indexed, taken);
+  const std::vector<bool> taken = RangesTaken(shape.values, entry->candidates);
+  std::unique_ptr<Prepared>& prepared = entry->prepared[FlagsKey(taken)];
+  if (prepared && prepared->in_use) return one_off(entry->tokens, taken);
+  if (!prepared) {
+    Translation translation = Translate(entry->tokens, shape.values, indexed, taken);
     auto made = std::make_unique<Prepared>();
     made->stmt = PrepareOne(db, translation.sql);
     made->binds = std::move(translation.binds);
-    variant = std::move(made);
+    prepared = std::move(made);
   }
-  BoundStatement bound(std::move(shape), variant->stmt.get(), Statement(), &variant->in_use);
-  variant->in_use = true;
-  BindAll(db, bound.get(), bound.shape(), variant->binds);
+  bound.stmt_ = prepared->stmt.get();
+  bound.values_ = std::move(shape.values);
+  bound.key_use_ = &entry->key_use;
+  BindAll(db, bound.stmt_, bound.values_, prepared->binds);
+  bound.in_use_ = &prepared->in_use;
+  prepared->in_use = true;
   return bound;
 }
 
-std::string InlinedSql(const Shape& shape, const IndexedTextColumns& indexed) {
-  const std::vector<size_t> candidates = RangeCandidates(shape, indexed);
-  const Translation translation = Translate(shape, indexed, RangesTaken(shape, candidates));
+std::string InlinedSql(std::string_view sql, const IndexedTextColumns& indexed) {
+  const Shape shape = ShapeOf(sql);
+  const Tokens tokens = Tokenize(shape.text);
+  CheckShape(tokens, shape.definition);
+  const std::vector<size_t> candidates = RangeCandidates(tokens, shape.values, indexed);
+  const Translation translation =
+      Translate(tokens, shape.values, indexed, RangesTaken(shape.values, candidates));
   std::string out;
-  const std::string& sql = translation.sql;
-  for (size_t pos = 0; pos < sql.size();) {
-    if (sql[pos] != '?' ) {
-      // Texts between apostrophes are copied whole: a "?" there is no parameter.
-      if (sql[pos] == '\'') {
-        const size_t end = sql.find('\'', pos + 1);
-        const size_t stop = end == std::string::npos ? sql.size() : end + 1;
-        out.append(sql, pos, stop - pos);
-        pos = stop;
-      } else {
-        out.push_back(sql[pos++]);
-      }
+  const std::string& text = translation.sql;
+  for (size_t pos = 0; pos < text.size();) {
+    Tok kind;
+    const size_t len = ScanToken(text, pos, &kind);
+    if (kind != Tok::kParam) {
+      out.append(text, pos, len);
+      pos += len;
       continue;
     }
     size_t end = pos + 1;
-    while (end < sql.size() && std::isdigit(static_cast<unsigned char>(sql[end]))) ++end;
-    const Bind& bind = translation.binds[std::stoul(sql.substr(pos + 1, end - pos - 1)) - 1];
+    while (end < text.size() && std::isdigit(static_cast<unsigned char>(text[end]))) ++end;
+    const Bind& bind = translation.binds[std::stoul(text.substr(pos + 1, end - pos - 1)) - 1];
     const Literal& v = shape.values[bind.value];
     if (bind.part == Bind::Part::kValue) {
       out += SqlLiteral(v);
     } else {
       Literal range;
-      std::string low, high;
-      PrefixRange(v.text, &low, &high);
-      range.text = bind.part == Bind::Part::kLow ? low : high;
+      range.text = RangeBound(v, bind.part);
       out += SqlLiteral(range);
     }
     pos = end;
