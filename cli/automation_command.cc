@@ -3,7 +3,6 @@
 
 #include <istream>
 #include <ostream>
-#include <string>
 
 #include "automation/session.h"
 #include "cli/commands.h"
@@ -29,12 +28,7 @@ int RunAutomation(const Args& args, std::istream& in, std::ostream& out, std::os
     err << kUsage;
     return 2;
   }
-  automation::Session session;
-  std::string line;
-  while (std::getline(in, line)) {
-    if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
-    out << session.Answer(line) << '\n' << std::flush;
-  }
+  automation::Session().Serve(in, out);
   return 0;
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/raise.h"
+#include "base/text.h"
 
 namespace zerbal::automation {
 namespace {
@@ -18,44 +19,69 @@ constexpr const char* kTypeNames[] = {"Empty", "Null",   "Integer", "Long", "Byt
   Raise(errc::kInvalidProcedureCall, "not a variant: " + what);
 }
 
+// A value as the description of an error shows it: its first characters.
+std::string Shown(const json& value) {
+  const std::string text = value.dump(-1, ' ', false, json::error_handler_t::replace);
+  return Len(text) > 60 ? Left(text, 60) + "..." : text;
+}
+
+// Every number is read as a double: each whole value of T is exact there,
+// and anything past T's range, 64-bit or wider, stays past it.
 template <typename T>
 T Whole(const json& value) {
-  if (!value.is_number_integer()) Bad("a whole number was expected, got " + value.dump());
-  const int64_t n = value.get<int64_t>();
+  if (!value.is_number()) Bad("a whole number was expected, got " + Shown(value));
+  const double n = value.get<double>();
+  if (n != std::trunc(n)) Bad("a whole number was expected, got " + Shown(value));
   if (n < std::numeric_limits<T>::min() || n > std::numeric_limits<T>::max()) {
-    Raise(errc::kOverflow, value.dump());
+    Raise(errc::kOverflow, Shown(value));
   }
   return static_cast<T>(n);
 }
 
 int32_t Bound(const json& value) { return Whole<int32_t>(value); }
 
+// Elements from `lower` to `upper`: up to 2^32, or -1 when upper is below lower - 1.
+int64_t Extent(const json& pair) {
+  if (!pair.is_array() || pair.size() != 2) Bad("each bound is [lower, upper]");
+  const int64_t n = int64_t{Bound(pair[1])} - Bound(pair[0]) + 1;
+  if (n < 0) Bad("an upper bound below its lower bound less one: " + Shown(pair));
+  return n;
+}
+
+// The array is made only once its bounds are known to give exactly the
+// elements listed, so the line's own length bounds what it costs; the
+// elements are then placed by their position in the list, never by looping
+// over subscripts that may stand at the ends of the 32-bit range.
 Variant ArrayFromJson(const json& j) {
   const json& bounds = j.at("bounds");
   const json& elements = j.at("elements");
   if (!bounds.is_array() || bounds.empty() || bounds.size() > 2 || !elements.is_array()) {
     Bad("an array needs one or two bounds and a list of elements");
   }
-  for (const json& pair : bounds) {
-    if (!pair.is_array() || pair.size() != 2) Bad("each bound is [lower, upper]");
+  const int64_t rows = Extent(bounds[0]);
+  const int64_t columns = bounds.size() == 2 ? Extent(bounds[1]) : 1;
+  const uint64_t given = elements.size();
+  // rows * columns would overflow for two full 32-bit ranges; the division cannot.
+  const bool matches = columns == 0 ? given == 0
+                                    : given % columns == 0 && given / columns == uint64_t(rows);
+  if (!matches) {
+    Bad("the bounds give " + std::to_string(rows) +
+        (bounds.size() == 2 ? " by " + std::to_string(columns) : std::string()) +
+        " elements, the list has " + std::to_string(given));
   }
-  Array array = bounds.size() == 1
-                    ? Array(Bound(bounds[0][0]), Bound(bounds[0][1]))
-                    : Array(Bound(bounds[0][0]), Bound(bounds[0][1]), Bound(bounds[1][0]),
-                            Bound(bounds[1][1]));
-  if (elements.size() != array.Elements().size()) {
-    Bad("the array has " + std::to_string(array.Elements().size()) + " elements, the list " +
-        std::to_string(elements.size()));
-  }
-  size_t k = 0;
-  if (array.Dimensions() == 1) {
-    for (int32_t i = array.LBound(1); i <= array.UBound(1); ++i) array(i) = FromJson(elements[k++]);
-  } else {
-    for (int32_t j2 = array.LBound(2); j2 <= array.UBound(2); ++j2) {
-      for (int32_t i = array.LBound(1); i <= array.UBound(1); ++i) {
-        array(i, j2) = FromJson(elements[k++]);
-      }
+  const int32_t lower = Bound(bounds[0][0]);
+  if (bounds.size() == 1) {
+    Array array(lower, Bound(bounds[0][1]));
+    for (uint64_t k = 0; k < given; ++k) {
+      array(static_cast<int32_t>(lower + int64_t(k))) = FromJson(elements[k]);
     }
+    return Variant(std::move(array));
+  }
+  const int32_t lower2 = Bound(bounds[1][0]);
+  Array array(lower, Bound(bounds[0][1]), lower2, Bound(bounds[1][1]));
+  for (uint64_t k = 0; k < given; ++k) {
+    array(static_cast<int32_t>(lower + int64_t(k % rows)),
+          static_cast<int32_t>(lower2 + int64_t(k / rows))) = FromJson(elements[k]);
   }
   return Variant(std::move(array));
 }
@@ -72,7 +98,7 @@ Variant TaggedFromJson(const json& j) {
   if (type == "Boolean" && value.is_boolean()) return Variant(value.get<bool>());
   if (type == "Double" && value.is_number()) return Variant(value.get<double>());
   if (type == "String" && value.is_string()) return Variant(value.get<std::string>());
-  Bad(j.dump());
+  Bad(Shown(j));
 }
 
 }  // namespace
@@ -112,13 +138,13 @@ Variant FromJson(const json& j) {
       case json::value_t::number_unsigned: {
         const double n = j.get<double>();
         if (n >= std::numeric_limits<int32_t>::min() && n <= std::numeric_limits<int32_t>::max()) {
-          return Variant(static_cast<int32_t>(j.get<int64_t>()));
+          return Variant(static_cast<int32_t>(n));
         }
         return Variant(n);
       }
       case json::value_t::number_float: return Variant(j.get<double>());
       case json::value_t::object: return TaggedFromJson(j);
-      default: Bad(j.dump());
+      default: Bad(Shown(j));
     }
   } catch (const json::exception& e) {
     Bad(e.what());

@@ -1,5 +1,8 @@
 #include "automation/session.h"
 
+#include <istream>
+#include <ostream>
+
 #include "automation/json_variant.h"
 #include "base/raise.h"
 
@@ -46,6 +49,44 @@ json Describe(const AutomationObject& object) {
                        {"object", m.returns_object}});
   }
   return members;
+}
+
+// The request of `line`, refused (5) past the limits before any of it is
+// used: the parser itself keeps no stack of its own, but every later walk
+// over the value (copying the id, describing a bad variant, reading nested
+// arrays) goes as deep as the value does.
+json Parse(std::string_view line) {
+  if (line.size() > kMaxLineBytes) {
+    BadRequest("a line holds at most " + std::to_string(kMaxLineBytes) + " bytes");
+  }
+  size_t values = 0;
+  const json::parser_callback_t limit = [&values](int depth, json::parse_event_t event, json&) {
+    using Event = json::parse_event_t;
+    if (depth >= kMaxDepth) {
+      BadRequest("JSON nests at most " + std::to_string(kMaxDepth) + " levels");
+    }
+    const bool value = event == Event::value || event == Event::object_start ||
+                       event == Event::array_start;
+    if (value && ++values > kMaxValues) {
+      BadRequest("a request holds at most " + std::to_string(kMaxValues) + " values");
+    }
+    return true;
+  };
+  return json::parse(line, limit);
+}
+
+// The next line of `in` without its end into `line`; false when the input
+// has ended. Of a line longer than kMaxLineBytes only one byte more is kept,
+// enough for Answer to refuse it, while the rest is read and dropped.
+bool ReadLine(std::istream& in, std::string& line) {
+  line.clear();
+  std::streambuf& buffer = *in.rdbuf();
+  int c = buffer.sbumpc();
+  if (c == std::char_traits<char>::eof()) return false;
+  for (; c != std::char_traits<char>::eof() && c != '\n'; c = buffer.sbumpc()) {
+    if (line.size() <= kMaxLineBytes) line.push_back(static_cast<char>(c));
+  }
+  return true;
 }
 
 json ErrorAnswer(const json& id, const Error& error) {
@@ -105,7 +146,7 @@ std::string Session::Answer(std::string_view line) {
   json id;  // null until the request names one
   json answer;
   try {
-    const json request = json::parse(line);
+    const json request = Parse(line);
     if (!request.is_object()) BadRequest("a request is a JSON object");
     if (const auto it = request.find("id"); it != request.end()) id = *it;
     answer = Handle(request);
@@ -118,6 +159,15 @@ std::string Session::Answer(std::string_view line) {
   }
   // Text that is not valid UTF-8 cannot travel in JSON: such bytes arrive as U+FFFD.
   return answer.dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+void Session::Serve(std::istream& in, std::ostream& out) {
+  std::string line;
+  while (ReadLine(in, line)) {
+    const bool blank = line.find_first_not_of(" \t\r") == std::string::npos;
+    if (blank && line.size() <= kMaxLineBytes) continue;
+    out << Answer(line) << '\n' << std::flush;
+  }
 }
 
 }  // namespace zerbal::automation

@@ -22,13 +22,25 @@
 //
 // Answers: {"id": ..., "ok": true, ...} or {"id": ..., "ok": false, "error":
 // {"number": N, "source": S, "description": D}}. A request that is not JSON,
-// or lacks what its op needs, gets error 5; an unknown handle error 91. The
-// session keeps serving after any error.
+// or lacks what its op needs, gets error 5; a number too large for the type
+// it gives or goes to error 6; an unknown handle error 91. The session keeps
+// serving after any error.
+//
+// Limits, so that every request is answered in time and memory of the order
+// of its own size: a line holds at most kMaxLineBytes bytes (a longer one is
+// read to its end without being kept, and answered 5 with a null id), JSON
+// nests at most kMaxDepth levels, and a request holds at most kMaxValues
+// JSON values (every array element counts). Beyond any of them the request
+// is answered 5 and nothing of it runs. An array's bounds must give exactly
+// as many elements as it lists, so no bound can make the bridge allocate or
+// loop beyond what the line itself holds.
 
 #ifndef ZERBAL_AUTOMATION_SESSION_H_
 #define ZERBAL_AUTOMATION_SESSION_H_
 
+#include <cstddef>
 #include <cstdint>
+#include <iosfwd>
 #include <map>
 #include <memory>
 #include <string>
@@ -40,10 +52,22 @@
 
 namespace zerbal::automation {
 
+// The largest buffer the library makes, 32,767 rows of 28 columns, fits in
+// both as plain values; a request that holds all it may takes a few hundred
+// megabytes at most while it is answered.
+inline constexpr size_t kMaxLineBytes = size_t{32} << 20;
+inline constexpr size_t kMaxValues = size_t{1} << 20;
+// Each array inside a variant takes two levels (the variant and its list).
+inline constexpr int kMaxDepth = 64;
+
 class Session {
  public:
   // The answer line (without its line end) to one request line.
   std::string Answer(std::string_view line);
+
+  // Answers each line of `in` on `out`, one line each and flushed at once,
+  // until the input ends; blank lines get no answer.
+  void Serve(std::istream& in, std::ostream& out);
 
  private:
   nlohmann::json Handle(const nlohmann::json& request);

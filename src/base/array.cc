@@ -16,9 +16,10 @@ int64_t Extent(int32_t lower, int32_t upper) {
   return n;
 }
 
-size_t CheckedCount(int64_t count) {
-  if (count > kMaxElements) Raise(errc::kOutOfMemory);
-  return static_cast<size_t>(count);
+// Extents reach 2^32, so their product is checked before it is formed.
+size_t CheckedCount(int64_t rows, int64_t columns = 1) {
+  if (columns != 0 && rows > kMaxElements / columns) Raise(errc::kOutOfMemory);
+  return static_cast<size_t>(rows * columns);
 }
 
 }  // namespace
@@ -31,7 +32,7 @@ Array::Array(int32_t lower, int32_t upper) : bounds_{{lower, upper}} {
 
 Array::Array(int32_t lower0, int32_t upper0, int32_t lower1, int32_t upper1)
     : bounds_{{lower0, upper0}, {lower1, upper1}} {
-  elements_.resize(CheckedCount(Extent(lower0, upper0) * Extent(lower1, upper1)));
+  elements_.resize(CheckedCount(Extent(lower0, upper0), Extent(lower1, upper1)));
 }
 
 int32_t Array::LBound(int dimension) const {
@@ -74,7 +75,7 @@ void Array::ReDimPreserve(int32_t upper_last) {
   for (size_t d = 0; d + 1 < bounds_.size(); ++d) {
     block *= Extent(bounds_[d].lower, bounds_[d].upper);
   }
-  const size_t count = CheckedCount(block * Extent(last.lower, upper_last));
+  const size_t count = CheckedCount(block, Extent(last.lower, upper_last));
   elements_.resize(count);
   last.upper = upper_last;
 }

@@ -1,5 +1,7 @@
 #include "automation/session.h"
 
+#include <sstream>
+
 #include "automation/json_variant.h"
 #include "testutil.h"
 #include "zerbal/presentador.h"
@@ -53,12 +55,28 @@ TEST(JsonVariantTest, PlainValuesAndBadVariants) {
       {R"({"type":"String"})", 5},
       {R"({"type":"Array","bounds":[[0,1]],"elements":[1]})", 5},
       {R"({"type":"Array","bounds":[[0,1],[0,1],[0,1]],"elements":[]})", 5},
-      {R"({"type":"Array","bounds":[[0,1000000000]],"elements":[]})", 7},
+      {R"({"type":"Array","bounds":[[0,1000000000]],"elements":[]})", 5},
+      {R"({"type":"Array","bounds":[[0,16777215]],"elements":[]})", 5},
+      {R"({"type":"Array","bounds":[[-2147483648,2147483647],[-2147483648,2147483647]],"elements":[]})", 5},
+      {R"({"type":"Array","bounds":[[0,2147483647]],"elements":[1]})", 5},
+      {R"({"type":"Long","value":18446744073709549614})", 6},
+      {R"({"type":"Integer","value":1e10})", 6},
+      {R"({"type":"Long","value":1.5})", 5},
       {R"([1,2])", 5},
   };
   for (const auto& row : rows) {
     EXPECT_RAISES(FromJson(json::parse(row.text)), row.error) << row.text;
   }
+}
+
+TEST(JsonVariantTest, BoundsAtTheEndsOfTheirRange) {
+  const Variant last = FromJson(json::parse(R"({"type":"Array","bounds":[[2147483647,2147483647]],
+                                                "elements":["x"]})"));
+  EXPECT_EQ(last(INT32_MAX), Variant("x"));
+  const Variant empty = FromJson(json::parse(R"({"type":"Array",
+      "bounds":[[0,-1],[0,2147483647]],"elements":[]})"));  // no element to read, however long
+  EXPECT_EQ(empty.AsArray().UBound(2), INT32_MAX);
+  EXPECT_TRUE(empty.AsArray().Elements().empty());
 }
 
 class SessionTest : public test::DatabaseTest {
@@ -117,6 +135,57 @@ TEST_F(SessionTest, ErrorsAreAnsweredAndTheSessionGoesOn) {
   EXPECT_EQ(error["id"], json::array({1}));
   EXPECT_FALSE(error["error"]["source"].get<std::string>().empty());
   EXPECT_TRUE(Ask(R"({"op": "classes"})")["ok"]) << "still serving";
+}
+
+std::string Repeat(std::string_view text, size_t times) {
+  std::string all;
+  all.reserve(text.size() * times);
+  for (size_t k = 0; k < times; ++k) all += text;
+  return all;
+}
+
+// Lines built to crash, hang or exhaust the bridge: each gets its answer.
+TEST_F(SessionTest, HostileRequestsAreAnswered) {
+  Ask(R"({"op": "create", "class": "Brevandol.cMiscelaneos"})");
+  const std::string let = R"({"id": 7, "op": "let", "handle": 1, "name": "x", "value": )";
+  const std::string nested_arrays = Repeat(R"({"type":"Array","bounds":[[0,0]],"elements":[)", 23000) +
+                                    "1" + Repeat("]}", 23000);
+  const struct {
+    const char* rule;
+    std::string request;
+    int32_t error;
+  } rows[] = {
+      {"an id nested 75,000 levels",
+       R"({"op": "classes", "id": )" + Repeat("[", 75000) + Repeat("]", 75000) + "}", 5},
+      {"23,000 nested arrays", let + nested_arrays + "}", 5},
+      {"a bad value nested deep", let + R"({"type": "Nope", "value": )" + Repeat("[", 75000) +
+                                      Repeat("]", 75000) + "}}", 5},
+      {"a Long past 64 bits", let + R"({"type": "Long", "value": 18446744073709549614}})", 6},
+      {"more values than a request may hold",
+       let + R"({"type": "Array", "bounds": [[0, 1048576]], "elements": [)" +
+           Repeat("0,", 1048576) + "0]}}", 5},
+  };
+  for (const auto& row : rows) {
+    const json answer = Ask(row.request);
+    EXPECT_EQ(ErrorNumber(answer), row.error) << row.rule << " -> " << answer.dump().substr(0, 300);
+  }
+  EXPECT_EQ(ErrorNumber(Ask(let + "1}")), 438) << "the id comes back when the request is sound";
+}
+
+TEST_F(SessionTest, ServeAnswersEachLineAndDropsOneTooLongToKeep) {
+  const std::string classes = R"({"id": 1, "op": "classes"})";
+  std::istringstream in(classes + "\n \r\n" + std::string(kMaxLineBytes, ' ') + classes + "\n" +
+                        R"({"id": 3, "op": "classes"})");  // the last line has no end
+  std::ostringstream out;
+  session_.Serve(in, out);
+  std::vector<json> answers;
+  std::istringstream lines(out.str());
+  for (std::string line; std::getline(lines, line);) answers.push_back(json::parse(line));
+  ASSERT_EQ(answers.size(), 3u) << "a blank line gets no answer";
+  EXPECT_EQ(answers[0]["id"], 1);
+  EXPECT_EQ(ErrorNumber(answers[1]), 5) << "the long line, although its end is a sound request";
+  EXPECT_TRUE(answers[1]["id"].is_null());
+  EXPECT_EQ(answers[2]["id"], 3);
 }
 
 TEST_F(SessionTest, BuffersComeBackChangedAndLibraryErrorsUnchanged) {

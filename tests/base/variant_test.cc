@@ -51,6 +51,7 @@ TEST(VariantTest, ArraySubscriptsOutsideTheBoundsRaise9) {
 
   EXPECT_EQ(Array().UBound(), -1) << "an empty array runs from 0 to -1";
   EXPECT_RAISES(Array(0, 1 << 30), 7);
+  EXPECT_RAISES(Array(INT32_MIN, INT32_MAX, INT32_MIN, INT32_MAX), 7) << "2^64 elements";
   EXPECT_RAISES(Array(5, 3), 9);
 }
 
