@@ -48,6 +48,8 @@ std::string Text(std::string text, int16_t width, std::string_view fill) {
   return General::FormatoTexto(text, width, fill);
 }
 
+thread_local MisfitWatch* watch = nullptr;
+
 std::string Formatted(const Field& field, const Variant& value, std::string_view moneda) {
   const int16_t width = field.width;
   switch (field.kind) {
@@ -94,8 +96,28 @@ std::string WriteRecord(const Layout& layout, const RecordInput& input) {
   }
   std::string record;
   record.reserve(static_cast<size_t>(layout.length) + 8);
-  for (const Field& field : layout.fields) record += WriteField(field, input);
+  std::optional<Misfit> misfit;
+  for (const Field& field : layout.fields) {
+    const std::string text = WriteField(field, input);
+    if (watch != nullptr && !misfit && Len(text) != field.width) {
+      misfit = Misfit{layout.name, &field, text};
+    }
+    record += text;
+  }
+  if (watch != nullptr) watch->Saw(std::move(misfit));
   return record;
+}
+
+MisfitWatch::MisfitWatch() : outer_(watch) { watch = this; }
+
+MisfitWatch::~MisfitWatch() { watch = outer_; }
+
+void MisfitWatch::Saw(std::optional<Misfit> misfit) {
+  if (misfit && !first_) {
+    first_ = std::move(misfit);
+    first_->record = records_;
+  }
+  ++records_;
 }
 
 }  // namespace zerbal::fileformat

@@ -21,6 +21,7 @@
 // know, comes out empty and the record shorter. Validated data never holds
 // such values; writing them as they are keeps the fault visible (a record of
 // the wrong length) instead of sending an amount or code silently changed.
+// A MisfitWatch names the field that did it.
 
 #ifndef ZERBAL_FILEFORMAT_LAYOUT_H_
 #define ZERBAL_FILEFORMAT_LAYOUT_H_
@@ -29,6 +30,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -204,6 +206,35 @@ std::string WriteField(const Field& field, const RecordInput& input);
 
 // Every field of `layout` in order. Raises 51 when the layout is faulty.
 std::string WriteRecord(const Layout& layout, const RecordInput& input);
+
+// A field whose text came out longer or shorter than its width.
+struct Misfit {
+  std::string_view layout;  // "Export2014 registro 0"
+  const Field* field;
+  std::string text;    // what was written for it
+  int32_t record = 0;  // records written under the watch before this one's
+};
+
+// While a watch lives, WriteRecord tells it of every record written on its
+// thread, and it keeps the first field of them whose text is not the
+// field's width; records are written as ever. A watch made inside another
+// takes the notes until it ends.
+class MisfitWatch {
+ public:
+  MisfitWatch();
+  ~MisfitWatch();
+  MisfitWatch(const MisfitWatch&) = delete;
+  MisfitWatch& operator=(const MisfitWatch&) = delete;
+
+  const std::optional<Misfit>& First() const { return first_; }
+  // A record written; `misfit` is its first field that did not fit, if any.
+  void Saw(std::optional<Misfit> misfit);
+
+ private:
+  MisfitWatch* outer_;
+  std::optional<Misfit> first_;
+  int32_t records_ = 0;
+};
 
 }  // namespace zerbal::fileformat
 

@@ -106,5 +106,50 @@ TEST(LayoutTest, ATableTypoIsCaughtBeforeAnythingIsWritten) {
   EXPECT_EQ(WriteRecord(Layout{"sound", 13, sound}, input), "2347B20000001");
 }
 
+TEST(LayoutTest, AWatchNamesTheFirstFieldThatDoesNotFit) {
+  constexpr std::array fields = {Mask("m", 1, 2, Declarado(0)), N("n", 3, 2, Declarado(1))};
+  const Layout layout{"prueba", 4, fields};
+  const struct {
+    const char* rule;
+    Variant record;
+    const char* field;  // nullptr: every field fits
+    const char* text;
+  } rows[] = {
+      {"both fit", test::Buffer({"1", "2"}), nullptr, ""},
+      {"too many digits", test::Buffer({"1", "123"}), "n", "123"},
+      {"one short, one long: the length is right", test::Buffer({"", "1234"}), "m", ""},
+  };
+  for (const auto& row : rows) {
+    RecordInput input;
+    input.record = &row.record;
+    MisfitWatch watch;
+    const std::string written = WriteRecord(layout, input);
+    if (row.field == nullptr) {
+      EXPECT_FALSE(watch.First()) << row.rule;
+      continue;
+    }
+    ASSERT_TRUE(watch.First()) << row.rule << ": " << written;
+    EXPECT_EQ(watch.First()->field->name, row.field) << row.rule;
+    EXPECT_EQ(watch.First()->text, row.text) << row.rule;
+    EXPECT_EQ(watch.First()->layout, "prueba") << row.rule;
+  }
+
+  const Variant fits = test::Buffer({"1", "2"}), long_n = test::Buffer({"1", "123"});
+  RecordInput first, second;
+  first.record = &fits;
+  second.record = &long_n;
+  MisfitWatch outer;
+  WriteRecord(layout, first);
+  {
+    MisfitWatch inner;
+    WriteRecord(layout, second);
+    EXPECT_TRUE(inner.First());
+  }
+  EXPECT_FALSE(outer.First()) << "the inner watch took it";
+  WriteRecord(layout, second);
+  ASSERT_TRUE(outer.First());
+  EXPECT_EQ(outer.First()->record, 1) << "the second record this watch saw";
+}
+
 }  // namespace
 }  // namespace zerbal::fileformat
