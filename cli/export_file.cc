@@ -1,10 +1,17 @@
 #include "cli/export_file.h"
 
+#include <stdlib.h>
+
+#include <cerrno>
+#include <cstring>
 #include <fstream>
+#include <sstream>
 #include <vector>
 
 #include "base/convert.h"
 #include "base/text.h"
+#include "cli/export_target.h"
+#include "fileformat/layout.h"
 #include "zerbal/conexion_dao.h"
 #include "zerbal/exportacion.h"
 #include "zerbal/presentador.h"
@@ -15,9 +22,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The codes of the year's declarants, as the driver takes them: elements 0
-// to n-1 of a one-dimensional array.
-Variant DeclarantCodes(const ExportOptions& o) {
+// The year's declarants, as the driver takes them: their codes as elements 0
+// to n-1 of a one-dimensional array, and their NIFs to name them by.
+struct Declarants {
+  Variant codes;
+  std::vector<std::string> nifs;
+};
+
+Declarants DeclarantsOf(const ExportOptions& o) {
   Conexion().mdb(bd347mod);
   Conexion().InicializaBD(o.data.string());
   const Variant table = cTImpExp().ObtenerDeclarantes(o.year, o.currency);
@@ -27,26 +39,42 @@ Variant DeclarantCodes(const ExportOptions& o) {
                         o.currency + " in " + o.data.string());
   }
   const int32_t n = table.AsArray().UBound(2);
-  Variant codes(Array(0, n - 1));
-  for (int32_t k = 1; k <= n; ++k) codes(k - 1) = table(0, k);
-  return codes;
+  Declarants d{Variant(Array(0, n - 1)), {}};
+  for (int32_t k = 1; k <= n; ++k) {
+    d.codes(k - 1) = table(0, k);
+    d.nifs.push_back(table(1, k).AsString());
+  }
+  return d;
 }
 
-void Check(const std::string& record, size_t length, const std::string& what) {
-  if (record.empty()) throw ExportFailure("the " + what + " could not be built");
+// Refuses `record` (the `row`th written under `watch`) when one of its fields
+// did not fit or it is not `length` characters long; a field that misfits
+// one way and another the other way would leave the length right and every
+// field between them out of place.
+void Check(const std::string& record, int32_t row, size_t length, const std::string& what,
+           const fileformat::MisfitWatch& watch) {
+  if (record.empty()) throw ExportFailure(what + " could not be built");
+  if (const auto& misfit = watch.First(); misfit && misfit->record == row) {
+    const fileformat::Field& f = *misfit->field;
+    throw ExportFailure(what + " cannot be written: " + std::string(f.name) + " takes " +
+                        std::to_string(f.width) + " characters (positions " +
+                        std::to_string(f.start) + " to " + std::to_string(f.start + f.width - 1) +
+                        "), and its value \"" + misfit->text + "\" has " +
+                        std::to_string(Len(misfit->text)));
+  }
   if (static_cast<size_t>(Len(record)) != length) {
-    throw ExportFailure("the " + what + " is " + std::to_string(Len(record)) +
-                        " characters long, not " + std::to_string(length) +
-                        ": a value does not fit its field");
+    throw ExportFailure(what + " is " + std::to_string(Len(record)) + " characters long, not " +
+                        std::to_string(length));
   }
 }
 
+// The records 2 or 3 of one declarant, rows 1 to n of `records`.
 void Append(std::vector<std::string>& lines, const Variant& records, size_t length,
-            const std::string& what) {
+            const std::string& what, const fileformat::MisfitWatch& watch) {
   if (records.IsEmpty()) return;
   const Array& a = records.AsArray();
   for (int32_t i = 1; i <= a.UBound(); ++i) {
-    Check(a(i).AsString(), length, what + " " + std::to_string(i));
+    Check(a(i).AsString(), i - 1, length, what + ", row " + std::to_string(i), watch);
     lines.push_back(a(i).AsString());
   }
 }
@@ -74,28 +102,59 @@ int32_t Unrepresentable(const std::string& utf8) {
   return count;
 }
 
-void WriteLines(const std::vector<std::string>& lines, const ExportOptions& o,
-                ExportSummary& summary) {
-  const fs::path temp = fs::path(o.out.string() + ".tmp");
-  {
-    std::ofstream file(temp, std::ios::binary | std::ios::trunc);
-    for (const std::string& line : lines) {
-      if (!o.utf8) summary.replaced_chars += Unrepresentable(line);
-      file << (o.utf8 ? line : Utf8ToWindows1252(line)) << "\r\n";
-    }
-    if (!file.flush()) {
-      std::error_code ignored;
-      fs::remove(temp, ignored);
-      throw ExportFailure("cannot write " + o.out.string());
-    }
+std::string FileText(const std::vector<std::string>& lines, const ExportOptions& o,
+                     ExportSummary& summary) {
+  std::string text;
+  for (const std::string& line : lines) {
+    if (!o.utf8) summary.replaced_chars += Unrepresentable(line);
+    text += o.utf8 ? line : Utf8ToWindows1252(line);
+    text += "\r\n";
   }
-  fs::rename(temp, o.out);
+  return text;
+}
+
+// The declarants file as ExportarDtes writes it, made in a new folder of our
+// own, where nothing else can stand under its name, and read back.
+std::string DeclarantsFileText(cExportacion& exportacion, const Variant& codes) {
+  std::string folder = (fs::temp_directory_path() / "zerbal-export-XXXXXX").string();
+  if (::mkdtemp(folder.data()) == nullptr) {
+    throw ExportFailure("cannot make a temporary folder in " +
+                        fs::temp_directory_path().string() + ": " + std::strerror(errno));
+  }
+  struct Removed {
+    fs::path folder;
+    ~Removed() {
+      std::error_code ignored;
+      fs::remove_all(folder, ignored);
+    }
+  } removed{folder};
+  const fs::path file = removed.folder / "declarants.txt";
+  if (!exportacion.ExportarDtes(file.string(), codes)) {
+    throw ExportFailure("cannot build the declarants file");
+  }
+  std::ifstream in(file, std::ios::binary);
+  std::ostringstream text;
+  text << in.rdbuf();
+  return text.str();
 }
 
 }  // namespace
 
 ExportSummary ExportYear(const ExportOptions& o) {
-  const Variant codes = DeclarantCodes(o);
+  const std::vector<KeptFile> databases = DatabaseFiles(o.data);
+  std::vector<KeptFile> kept_from_declarants = databases;
+  kept_from_declarants.push_back({o.out, "the declaration file (--out)"});
+  CheckTarget(o.out, databases);
+  if (o.declarants) {
+    CheckTarget(*o.declarants, kept_from_declarants);
+    if (fs::weakly_canonical(*o.declarants) == fs::weakly_canonical(o.out)) {
+      throw ExportFailure("the declarants file and the declaration file are both " +
+                          o.out.string() + ": name two files");
+    }
+  }
+
+  const Declarants declarants = DeclarantsOf(o);
+  const Variant& codes = declarants.codes;
   const Variant presenter = Presenter(o);
   const size_t length = o.year >= 2011 ? 500 : 180;
   cExportacion exportacion;
@@ -111,25 +170,36 @@ ExportSummary ExportYear(const ExportOptions& o) {
   }
   for (int16_t i = 0; i < n; ++i) {
     if (o.progress) *o.progress << "\rExporting declarant " << i + 1 << " of " << n << std::flush;
-    const std::string who = "declarant " + CStr(codes(i));
-    const std::string reg1 = exportacion.ExportarReg1(codes, i);
-    Check(reg1, length, "record 1 of " + who);
-    lines.push_back(reg1);
-    Append(lines, exportacion.ExportarReg2(codes, i), length, "record 2 of " + who + ", row");
-    Append(lines, exportacion.ExportarReg3(codes, i), length, "record 3 of " + who + ", row");
+    const std::string who = " of declarant " + declarants.nifs[i];
+    {
+      fileformat::MisfitWatch watch;
+      const std::string reg1 = exportacion.ExportarReg1(codes, i);
+      Check(reg1, 0, length, "record 1" + who, watch);
+      lines.push_back(reg1);
+    }
+    {
+      fileformat::MisfitWatch watch;
+      Append(lines, exportacion.ExportarReg2(codes, i), length, "record 2" + who, watch);
+    }
+    fileformat::MisfitWatch watch;
+    Append(lines, exportacion.ExportarReg3(codes, i), length, "record 3" + who, watch);
   }
   if (o.progress) *o.progress << "\r" << std::string(40, ' ') << "\r" << std::flush;
-  lines[0] = exportacion.ExportarReg0(presenter, n, exportacion.NoTotalDeclArren(), o.year);
-  Check(lines[0], length, "record 0");
+  {
+    fileformat::MisfitWatch watch;
+    lines[0] = exportacion.ExportarReg0(presenter, n, exportacion.NoTotalDeclArren(), o.year);
+    Check(lines[0], 0, length, "record 0 (the presenter)", watch);
+  }
 
   ExportSummary summary;
   summary.declarants = n;
   summary.records = static_cast<int32_t>(lines.size());
   summary.file = o.out;
-  WriteLines(lines, o, summary);
-  if (o.declarants && !exportacion.ExportarDtes(o.declarants->string(), codes)) {
-    throw ExportFailure("cannot write the declarants file " + o.declarants->string());
-  }
+  const std::string text = FileText(lines, o, summary);
+  const std::string declarants_text =
+      o.declarants ? DeclarantsFileText(exportacion, codes) : std::string();
+  ReplaceFile(o.out, text, databases);
+  if (o.declarants) ReplaceFile(*o.declarants, declarants_text, kept_from_declarants);
   return summary;
 }
 

@@ -36,15 +36,17 @@ struct ExportSummary {
 };
 
 // A failure that the tool reports in words: no declarations, no presenter,
-// a record that cannot be built.
+// a record that cannot be built (naming the field that does not fit), an
+// output that cannot be written or must not be.
 class ExportFailure : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-// Writes the file (under a temporary name, renamed into place when whole, so
-// a failure leaves no partial file). Raises ExportFailure or the library's
-// errors.
+// Writes the file, and the declarants file when asked, each replaced whole
+// as export_target.h says; refuses, before any work, an output that is not
+// a regular file or is one of the databases, and the same file named for
+// both. Raises ExportFailure or the library's errors.
 ExportSummary ExportYear(const ExportOptions& options);
 
 }  // namespace zerbal::cli

@@ -2,6 +2,9 @@
 
 #include <stdlib.h>
 
+#include <fstream>
+#include <sstream>
+
 #include "data/engine.h"
 #include "zerbal/databases.h"
 
@@ -75,6 +78,13 @@ std::vector<std::vector<Variant>> Rows(const std::string& path, const std::strin
 void Exec(const std::string& path, const std::string& sql) {
   auto conn = data::EngineConnection::Open(path, false);
   data::ExecScript(conn->db(), sql);
+}
+
+std::string Slurp(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream text;
+  text << in.rdbuf();
+  return text.str();
 }
 
 }  // namespace zerbal::test

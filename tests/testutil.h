@@ -65,6 +65,9 @@ std::vector<std::vector<Variant>> Rows(const std::string& path, const std::strin
 // through a connection of its own.
 void Exec(const std::string& path, const std::string& sql);
 
+// Every byte of the file at `path` (nothing when there is no such file).
+std::string Slurp(const std::filesystem::path& path);
+
 }  // namespace zerbal::test
 
 namespace zerbal {

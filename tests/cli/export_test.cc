@@ -17,12 +17,11 @@
 namespace zerbal::cli {
 namespace {
 
-std::vector<std::string> Lines(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
+namespace fs = std::filesystem;
+
+std::vector<std::string> Lines(const fs::path& path) {
   std::vector<std::string> lines;
-  const std::string all = text.str();
+  const std::string all = test::Slurp(path);
   for (size_t pos = 0; pos < all.size();) {
     const size_t end = all.find("\r\n", pos);
     EXPECT_NE(end, std::string::npos) << "every line ends in CR LF";
@@ -116,15 +115,60 @@ TEST_F(ExportYearTest, FailuresSayWhatIsMissingAndLeaveNoFile) {
   cPresentador p;
   p.mdbmod(mod_);
   p.GuardarPresentador(SamplePresenter());
-  test::Exec(mod_, "UPDATE tOperadores SET impmet = -5 WHERE codope = 2");
-  try {
-    ExportYear(Options(2014));
-    ADD_FAILURE() << "a negative cash amount does not fit its field";
-  } catch (const ExportFailure& e) {
-    EXPECT_NE(std::string(e.what()).find("501 characters"), std::string::npos) << e.what();
+  const struct {
+    const char* rule;
+    const char* sql;
+    const char* undo;
+    const char* refusal;
+  } misfits[] = {
+      {"a 9-digit telephone in the presenter's 7 positions",
+       "UPDATE TPresentador SET telefono = '943123456'", "UPDATE TPresentador SET telefono = ''",
+       "record 0 (the presenter) cannot be written: telefono takes 7 characters (positions 107 "
+       "to 113), and its value \"943123456\" has 9"},
+      {"a negative cash amount", "UPDATE tOperadores SET impmet = -5 WHERE codope = 2",
+       "UPDATE tOperadores SET impmet = 0",
+       "record 2 of declarant 12345678Z, row 2 cannot be written: impmet takes 15 characters "
+       "(positions 94 to 108), and its value \"-000000000000005\" has 16"},
+  };
+  for (const auto& row : misfits) {
+    test::Exec(mod_, row.sql);
+    try {
+      ExportYear(Options(2014));
+      ADD_FAILURE() << row.rule;
+    } catch (const ExportFailure& e) {
+      EXPECT_EQ(std::string(e.what()), row.refusal) << row.rule;
+    }
+    test::Exec(mod_, row.undo);
   }
-  EXPECT_FALSE(std::filesystem::exists(dir_ / "out.txt"));
-  EXPECT_FALSE(std::filesystem::exists(dir_ / "out.txt.tmp"));
+  for (const auto& entry : fs::directory_iterator(dir_.path())) {
+    EXPECT_EQ(entry.path().filename().string().find("out"), std::string::npos)
+        << entry.path() << ": a failed export leaves nothing behind";
+  }
+  ExportYear(Options(2014));
+}
+
+TEST_F(ExportYearTest, NeitherOutputMayBeADatabaseOrTheOtherOutput) {
+  Fill(2014, true);
+  const std::string before = test::Slurp(mod_);
+  const struct {
+    const char* rule;
+    fs::path out;
+    std::optional<fs::path> declarants;
+  } rows[] = {
+      {"--out the data database", mod_, {}},
+      {"--out the lookup database", lec_, {}},
+      {"--declarants the data database", dir_ / "out.txt", mod_},
+      {"both the same new file", dir_ / "out.txt", dir_.path() / "." / "out.txt"},
+  };
+  for (const auto& row : rows) {
+    ExportOptions options = Options(2014);
+    options.out = row.out;
+    options.declarants = row.declarants;
+    EXPECT_THROW(ExportYear(options), ExportFailure) << row.rule;
+    EXPECT_EQ(test::Slurp(mod_), before) << row.rule;
+    EXPECT_FALSE(fs::exists(dir_ / "out.txt")) << row.rule;
+  }
+  EXPECT_EQ(test::Rows(mod_, "SELECT coddecla FROM TDeclaraciones").size(), 2u);
 }
 
 TEST_F(ExportYearTest, TheCommandReadsItsOptions) {

@@ -1,7 +1,6 @@
 #include "zerbal/exportacion.h"
 
 #include <fstream>
-#include <sstream>
 
 #include "fileformat/fixtures.h"
 #include "testutil.h"
@@ -38,13 +37,6 @@ class ExportacionTest : public test::DatabaseTest {
         {0, declaration, 20, "", "X2482300W", "Jan", 500.0, "Eibar", "R", "CL", "Easo", 3, "",
          "", "", 20}));
   }
-  static std::string Slurp(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
-  }
-
   cDeclarante declarante_;
   cDeclaraciones declaraciones_;
   cDeclarado declarado_;
@@ -109,7 +101,7 @@ TEST_F(ExportacionTest, TheDeclarantsFileReplacesWhatWasThere) {
   const auto path = dir_ / "dtes.txt";
   std::ofstream(path) << "old content that is longer than what replaces it\n\n\n\n";
   ASSERT_TRUE(exportacion_.ExportarDtes(path.string(), test::Buffer({a, b})));
-  const std::string text = Slurp(path);
+  const std::string text = test::Slurp(path);
   ASSERT_EQ(text.size(), 2u * 164);
   EXPECT_EQ(text.substr(162, 2), "\r\n");
   EXPECT_EQ(text.substr(9, 9), "Ib\xE1\xF1""ez \xD1 ") << "one Windows-1252 byte per character";
@@ -117,7 +109,7 @@ TEST_F(ExportacionTest, TheDeclarantsFileReplacesWhatWasThere) {
       << "a loaded declarant keeps the accent that stands for the apostrophe";
 
   EXPECT_FALSE(exportacion_.ExportarDtes(path.string(), test::Buffer({a, 99})));
-  EXPECT_EQ(Slurp(path).size(), 164u) << "the lines before the failure stay";
+  EXPECT_EQ(test::Slurp(path).size(), 164u) << "the lines before the failure stay";
 }
 
 TEST_F(ExportacionTest, CountsAndDeclarantsOfAYear) {
