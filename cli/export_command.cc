@@ -24,7 +24,9 @@ constexpr const char* kUsage =
     "with CR LF line ends (500 characters a record from 2011, 180 before),\n"
     "in Windows-1252 unless --encoding utf-8. --currency picks the\n"
     "declarations in euros (E, the default) or pesetas (P). --declarants also\n"
-    "writes the declarants file (162 characters a line).\n";
+    "writes the declarants file (162 characters a line). Each file is replaced\n"
+    "whole, keeping its mode, or left as it was; neither may be a database or\n"
+    "anything but a regular file.\n";
 
 // Reads "--name value" pairs; false on anything else.
 bool ReadOptions(const Args& args, std::map<std::string, std::string>& options) {

@@ -1,5 +1,6 @@
 #include <sstream>
 
+#include "base/convert.h"
 #include "cli/commands.h"
 #include "testutil.h"
 
@@ -53,6 +54,21 @@ TEST(CliTest, DemoWalksThroughThePresenterAndWillNotReuseAFolder) {
   EXPECT_EQ(again.status, 1);
   EXPECT_NE(again.err.find("error 58"), std::string::npos) << again.err;
   EXPECT_EQ(Call(RunDemo, {"a", "b"}).status, 2);
+}
+
+TEST(CliTest, EveryYearTheDemoLeavesExports) {
+  test::TempDir dir;
+  ASSERT_EQ(Call(RunDemo, {dir.path().string()}).status, 0);
+  const auto years = test::Rows((dir / "347mod.db").string(),
+                                "SELECT DISTINCT ejercicio, moneda FROM TDeclaraciones");
+  EXPECT_EQ(years.size(), 3u) << "2012, 2014 and 2015 of the declarant that stays";
+  for (const auto& row : years) {
+    const std::string year = CStr(row[0]);
+    Result exported = Call(RunExport, {"--dir", dir.path().string(), "--year", year, "--currency",
+                                       CStr(row[1]), "--out", (dir / "out.txt").string(),
+                                       "--declarants", (dir / "dtes.txt").string()});
+    EXPECT_EQ(exported.status, 0) << year << ": " << exported.err;
+  }
 }
 
 }  // namespace
