@@ -21,8 +21,7 @@ constexpr const char* kTypeNames[] = {"Empty", "Null",   "Integer", "Long", "Byt
 
 // A value as the description of an error shows it: its first characters.
 std::string Shown(const json& value) {
-  const std::string text = value.dump(-1, ' ', false, json::error_handler_t::replace);
-  return Len(text) > 60 ? Left(text, 60) + "..." : text;
+  return Abridged(value.dump(-1, ' ', false, json::error_handler_t::replace), 60);
 }
 
 // Every number is read as a double: each whole value of T is exact there,
@@ -40,7 +39,7 @@ T Whole(const json& value) {
 
 int32_t Bound(const json& value) { return Whole<int32_t>(value); }
 
-// Elements from `lower` to `upper`: up to 2^32, or -1 when upper is below lower - 1.
+// Elements from `lower` to `upper` of a pair: up to 2^32.
 int64_t Extent(const json& pair) {
   if (!pair.is_array() || pair.size() != 2) Bad("each bound is [lower, upper]");
   const int64_t n = int64_t{Bound(pair[1])} - Bound(pair[0]) + 1;

@@ -19,7 +19,11 @@ namespace zerbal::automation {
 
 nlohmann::json ToJson(const Variant& value);
 
-// Raises 5 with a description of what is wrong when `json` is not a variant.
+// Raises 5 with a description of what is wrong when `json` is not a variant
+// (an array whose bounds do not give exactly the elements it lists
+// included, checked before the array is made), 6 for a whole number past
+// the range of its type. It recurses as deep as arrays nest in `json`: the
+// session refuses a request nested past kMaxDepth before it gets here.
 Variant FromJson(const nlohmann::json& json);
 
 }  // namespace zerbal::automation

@@ -5,6 +5,7 @@
 
 #include "automation/json_variant.h"
 #include "base/raise.h"
+#include "base/text.h"
 
 namespace zerbal::automation {
 namespace {
@@ -52,9 +53,9 @@ json Describe(const AutomationObject& object) {
 }
 
 // The request of `line`, refused (5) past the limits before any of it is
-// used: the parser itself keeps no stack of its own, but every later walk
-// over the value (copying the id, describing a bad variant, reading nested
-// arrays) goes as deep as the value does.
+// used: the parser does not recurse, but every later walk over the value
+// (copying the id, describing a bad variant, reading nested arrays) goes as
+// deep as the value does.
 json Parse(std::string_view line) {
   if (line.size() > kMaxLineBytes) {
     BadRequest("a line holds at most " + std::to_string(kMaxLineBytes) + " bytes");
@@ -152,8 +153,11 @@ std::string Session::Answer(std::string_view line) {
     answer = Handle(request);
     answer["id"] = id;
   } catch (const json::exception& e) {
-    answer = ErrorAnswer(id, Error(errc::kInvalidProcedureCall, std::string(kBridgeSource),
-                                   std::string("bad request: ") + e.what()));
+    // 406: a number past what a double holds. The parser's words quote the
+    // text it read, however long: the first of them say enough.
+    const int32_t number = e.id == 406 ? errc::kOverflow : errc::kInvalidProcedureCall;
+    answer = ErrorAnswer(id, Error(number, std::string(kBridgeSource),
+                                   "bad request: " + Abridged(e.what(), 200)));
   } catch (...) {
     answer = ErrorAnswer(id, CurrentError());
   }

@@ -97,6 +97,11 @@ std::string Left(std::string_view text, int64_t length) {
   return std::string(text.substr(0, ByteOffset(text, length < 0 ? 0 : length)));
 }
 
+std::string Abridged(std::string_view text, int64_t length) {
+  const size_t cut = ByteOffset(text, length < 0 ? 0 : length);
+  return cut < text.size() ? std::string(text.substr(0, cut)) + "..." : std::string(text);
+}
+
 std::string Right(std::string_view text, int64_t length) {
   const int64_t total = Len(text);
   if (length >= total) return std::string(text);

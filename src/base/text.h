@@ -26,6 +26,10 @@ std::string Mid(std::string_view text, int64_t start, int64_t length = -1);
 std::string Left(std::string_view text, int64_t length);
 std::string Right(std::string_view text, int64_t length);
 
+// `text` as a message quotes it: its first `length` characters and "..."
+// when it has more.
+std::string Abridged(std::string_view text, int64_t length);
+
 // 1-based character position of the first `what` in `text` from character
 // `start` on; 0 when absent.
 int64_t InStr(std::string_view text, std::string_view what, int64_t start = 1);

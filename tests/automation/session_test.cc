@@ -161,6 +161,7 @@ TEST_F(SessionTest, HostileRequestsAreAnswered) {
       {"a bad value nested deep", let + R"({"type": "Nope", "value": )" + Repeat("[", 75000) +
                                       Repeat("]", 75000) + "}}", 5},
       {"a Long past 64 bits", let + R"({"type": "Long", "value": 18446744073709549614}})", 6},
+      {"a number past a double", let + Repeat("9", 400) + "}", 6},
       {"more values than a request may hold",
        let + R"({"type": "Array", "bounds": [[0, 1048576]], "elements": [)" +
            Repeat("0,", 1048576) + "0]}}", 5},

@@ -13,6 +13,8 @@ TEST(TextTest, PositionsCountCharactersNotBytes) {
   EXPECT_EQ(Mid(name, 9, 2), "ñe");
   EXPECT_EQ(Mid(name, 20, 3), "");
   EXPECT_EQ(Left(name, 2), "Ño");
+  EXPECT_EQ(Abridged(name, 4), "Ñoño...");
+  EXPECT_EQ(Abridged(name, 11), name) << "nothing cut, nothing added";
   EXPECT_EQ(Right(name, 3), "ñez");
   EXPECT_EQ(Right("20005", 3), "005");
   EXPECT_EQ(Right("5", 3), "5");
