@@ -106,4 +106,10 @@ void RaiseAgainWithPrefix(std::string_view prefix) {
   throw error;
 }
 
+void RaiseAgainWithSource(std::string_view source) {
+  const Error error = CurrentError();
+  throw Error(error.Number(), std::string(source), error.Description(), error.HelpFile(),
+              error.HelpContext());
+}
+
 }  // namespace zerbal

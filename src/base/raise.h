@@ -29,6 +29,11 @@ Error CurrentError();
 // they were. Call only inside a catch block.
 [[noreturn]] void RaiseAgainWithPrefix(std::string_view prefix);
 
+// Raises the exception being handled again as an Error whose source is
+// `source`; number, description, help file and help context stay as they
+// were. Call only inside a catch block.
+[[noreturn]] void RaiseAgainWithSource(std::string_view source);
+
 // Runs `body`; any error escaping it is raised again with `prefix` in front
 // of its description. This is how every method with a trapping handler
 // reports ("cDeclarante.EliminarDeclarante ").
@@ -38,6 +43,18 @@ decltype(auto) WithPrefix(std::string_view prefix, F&& body) {
     return std::forward<F>(body)();
   } catch (...) {
     RaiseAgainWithPrefix(prefix);
+  }
+}
+
+// Runs `body`; any error escaping it is raised again as coming from
+// `source` ("Importacion.ValidarDte"): how the import's validators report a
+// failure that is not the data's.
+template <typename F>
+decltype(auto) WithSource(std::string_view source, F&& body) {
+  try {
+    return std::forward<F>(body)();
+  } catch (...) {
+    RaiseAgainWithSource(source);
   }
 }
 

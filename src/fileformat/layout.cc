@@ -85,6 +85,10 @@ std::string WriteField(const Field& field, const RecordInput& input) {
   return Formatted(field, ValueOf(field.source, input), input.moneda);
 }
 
+std::string ReadField(const Field& field, std::string_view line) {
+  return Mid(line, field.start, field.width);
+}
+
 std::string WriteRecord(const Layout& layout, const RecordInput& input) {
   if (const int faulty = FaultyField(layout); faulty >= 0) {
     const bool at_end = static_cast<size_t>(faulty) == layout.fields.size();

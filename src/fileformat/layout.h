@@ -4,9 +4,9 @@
 // of the file: every field has its 1-based start, its width, its kind (how
 // the value is formatted) and its source (which buffer element or computed
 // value it shows). The record writers of the year modules write records from
-// these tables; the import's splitters are to cut lines with the same ones.
-// The conversions of state-layout lines use the same tables, with fields
-// taken from the state line (Estatal) instead of a buffer.
+// these tables; the import's splitters cut lines with the same ones
+// (ReadField). The conversions of state-layout lines use the same tables,
+// with fields taken from the state line (Estatal) instead of a buffer.
 //
 // Every table is checked where it is defined (static_assert on FaultyField):
 // a field that does not start where the previous one ends, a constant whose
@@ -187,6 +187,20 @@ constexpr int FaultyField(const Layout& layout) {
   }
   return next == layout.length + 1 ? -1 : static_cast<int>(layout.fields.size());
 }
+
+// The field of `fields` called `name`. Used in a constant expression, a name
+// that is not there stops the build.
+constexpr Field FieldNamed(std::span<const Field> fields, std::string_view name) {
+  for (const Field& f : fields) {
+    if (f.name == name) return f;
+  }
+  throw "no field of that name";
+}
+
+// The text of `field` as it stands in `line`: `width` characters from its
+// start, fewer or none where the line ends sooner. This is how the import's
+// splitters cut a line with the table the writer wrote it from.
+std::string ReadField(const Field& field, std::string_view line);
 
 // What a record is written from; the buffers are borrowed for the call. A
 // missing buffer reads as Empty, so a field taken from it raises 13.
