@@ -22,6 +22,7 @@ inline constexpr std::string_view kPresentadorProgId = "zerbal.cPresentador";
 inline constexpr std::string_view kDatosGeneralesProgId = "zerbal.cDatosGenerales";
 inline constexpr std::string_view kExportacionProgId = "zerbal.cExportacion";
 inline constexpr std::string_view kTImpExpProgId = "zerbal.cTImpExp";
+inline constexpr std::string_view kImpExpProgId = "zerbal.cImpExp";
 
 std::unique_ptr<AutomationObject> NewMiscelaneos();
 std::unique_ptr<AutomationObject> NewConexionDAO();
@@ -33,6 +34,7 @@ std::unique_ptr<AutomationObject> NewPresentador();
 std::unique_ptr<AutomationObject> NewDatosGenerales();
 std::unique_ptr<AutomationObject> NewExportacion();
 std::unique_ptr<AutomationObject> NewTImpExp();
+std::unique_ptr<AutomationObject> NewImpExp();
 
 // A recordset as an object (class name "Recordset"): what openRecordset
 // returns.

@@ -26,6 +26,7 @@ constexpr ClassEntry kClasses[] = {
     {automation::kDatosGeneralesProgId, automation::NewDatosGenerales},
     {automation::kExportacionProgId, automation::NewExportacion},
     {automation::kTImpExpProgId, automation::NewTImpExp},
+    {automation::kImpExpProgId, automation::NewImpExp},
 };
 
 }  // namespace

@@ -1,0 +1,42 @@
+// Which module serves which fiscal year: the one place that decides, for
+// the driver, the splitter and validator of an operation or rental line by
+// the declaration's year, and the converter of a line in the state agency's
+// layout by the line's own year. A module not yet built is absent
+// (nullptr), and the driver refuses its lines; adding one is adding its
+// entry here.
+
+#ifndef ZERBAL_IMPORT_MODULOS_H_
+#define ZERBAL_IMPORT_MODULOS_H_
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "zerbal/variant.h"
+
+namespace zerbal::Importacion {
+
+// A year's splitter and validator of one record type, and the length limit
+// the driver gives the validator.
+struct Par {
+  Variant (*leer)(std::string_view strLinea, bool& Convertir);
+  Variant (*validar)(const Variant& vBufferValores, int16_t intLimite, const std::string& mdblec,
+                     const std::string& mdbmod, int32_t EjercicioMax, int32_t EjercicioMin,
+                     const std::string& Declaracion);
+  int16_t limite;
+};
+
+// Operations: up to 2007, 2008 to 2010, 2011 to 2013, 2014 on.
+const Par* ParDeclarados(int32_t lngEjercicio);
+// Rentals: up to 2007, 2008 to 2013, 2014 on.
+const Par* ParArrendamientos(int32_t lngEjercicio);
+
+// The converter of a state-layout line into this system's layout; it
+// returns the converted line. Years up to 2007, 2008 to 2010, 2011 to 2013,
+// and 2014 on (with anything else).
+using Conversor = std::string (*)(std::string& strLinea, const std::string& strRuta);
+Conversor ConversorEstatal(int32_t lngEjercicio);
+
+}  // namespace zerbal::Importacion
+
+#endif  // ZERBAL_IMPORT_MODULOS_H_

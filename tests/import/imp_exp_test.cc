@@ -1,0 +1,229 @@
+// The import driver on real databases: what each kind of line does to
+// Sujeto, Resultado, the errors and the tables, and the driver's own flows.
+
+#include "zerbal/impexp.h"
+
+#include "lineas.h"
+#include "zerbal/automation.h"
+#include "zerbal/declaraciones.h"
+#include "zerbal/declarante.h"
+
+namespace zerbal {
+namespace {
+
+using fileformat::kCamposReg1_2014;
+using fileformat::kCamposReg2_2014;
+using fileformat::kCamposReg3_2014;
+using test::Errors;
+using Rows = std::vector<std::vector<Variant>>;
+
+struct Outcome {
+  int sujeto;
+  int resultado;
+  Errors errors;
+  bool operator==(const Outcome&) const = default;
+};
+
+void PrintTo(const Outcome& o, std::ostream* os) {
+  *os << "Sujeto " << o.sujeto << ", Resultado " << o.resultado << ", " << o.errors.size()
+      << " errors";
+  for (const auto& [n, text] : o.errors) *os << " [" << n << " \"" << text << "\"]";
+}
+
+class ImpExpTest : public test::DatabaseTest {
+ protected:
+  ImpExpTest() {
+    imp_.mdbmod(mod_);
+    imp_.mdblec(lec_);
+    imp_.EjercicioMin(2002);
+    imp_.EjercicioMax(2014);
+  }
+  Outcome Spte(std::string line) {
+    Variant errores;
+    imp_.importSpte(line, errores, false);
+    return {imp_.Sujeto(), imp_.Resultado(), errores.IsArray() ? test::ErrorList(errores) : Errors{}};
+  }
+  Outcome OpeArr(std::string line, uint8_t arr_ope) {
+    Variant valores, errores;
+    imp_.importOpeArr(line, valores, errores, false, arr_ope);
+    return {imp_.Sujeto(), imp_.Resultado(), errores.IsArray() ? test::ErrorList(errores) : Errors{}};
+  }
+  int64_t Count(const std::string& table) {
+    return test::Rows(mod_, "SELECT COUNT(*) FROM " + table)[0][0].AsLong();
+  }
+  cImpExp imp_;
+};
+
+const std::string kPresenter = "0347201420B20456786";
+
+TEST_F(ImpExpTest, EachRecordTypeSetsSujetoAndResultado) {
+  imp_.Resultado(9);
+  const struct {
+    const char* name;
+    std::string line;
+    Outcome outcome;
+  } rows[] = {
+      {"presenter: Resultado left as it was", kPresenter, {0, 9, {}}},
+      {"first character 4", "4347", {5, 9, {}}},
+      {"empty line", "", {5, 9, {}}},
+      {"a blank first", " 347", {5, 9, {}}},
+      {"declarant", test::LineaDeclarante(), {1, 0, {}}},
+      {"operation", test::LineaDeclarado(), {3, 0, {}}},
+      {"rental", test::LineaArrendamiento(), {4, 0, {}}},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Spte(row.line), row.outcome) << row.name;
+  const Rows declarations = test::Rows(mod_, "SELECT coddecla, ejercicio, moneda FROM TDeclaraciones");
+  ASSERT_EQ(declarations.size(), 1u);
+  EXPECT_EQ(Variant(imp_.Declaracion()), Variant(std::to_string(declarations[0][0].AsLong())));
+  EXPECT_EQ(declarations[0][1], Variant(2014));
+  EXPECT_EQ(declarations[0][2], Variant("E")) << "every imported declaration is in euros";
+  EXPECT_EQ(Count("tOperadores"), 1);
+  EXPECT_EQ(Count("tArrendamientos"), 1);
+}
+
+TEST_F(ImpExpTest, StoredRowsAreTheSaveBuffersOfTheLines) {
+  Spte(test::LineaDeclarante());
+  const std::string negative = test::Changed(
+      test::LineaDeclarado(), kCamposReg2_2014,
+      {{"importe", "N000000000001000"}, {"impopet1", "N000000000000250"},
+       {"impopet2", "N000000000000250"}, {"impopet3", "N000000000000250"},
+       {"impopet4", "N000000000000250"}, {"claverep", "r"}});
+  ASSERT_EQ(Spte(negative), (Outcome{3, 0, {}}));
+  EXPECT_EQ(test::Rows(mod_,
+                       "SELECT provo, paiso, nifo, razon, claveopo, importe, claverep, impopeT1, "
+                       "impopeT4, ejerimpmet, opeivacaja, impanudevopecaj FROM tOperadores"),
+            (Rows{{20, " ", "54362315K", "Goikoetxea Larrañaga, Ane", "A", -1000.0, "R", -250.0,
+                   -250.0, 0, " ", 0.0}}))
+      << "paiso 00 is stored blank, keys in capitals, N amounts negative";
+
+  ASSERT_EQ(Spte(test::LineaArrendamiento()), (Outcome{4, 0, {}}));
+  ASSERT_EQ(Spte(test::Set(test::LineaArrendamiento(), kCamposReg3_2014, "nifa", "")),
+            (Outcome{4, 0, {}}));
+  EXPECT_EQ(test::Rows(mod_, "SELECT nifa, paiso, provi, prova, importe, numeroa FROM tArrendamientos"),
+            (Rows{{"X2482300W", "", 20, 20, 1800000.0, 21}, {" ", "OP", 20, 0, 1800000.0, 21}}))
+      << "the province doubles as prova only where the country is empty";
+}
+
+TEST_F(ImpExpTest, ARejectedDeclarationSkipsItsLines) {
+  ASSERT_EQ(Spte(test::LineaDeclarante()), (Outcome{1, 0, {}}));
+  EXPECT_EQ(Spte(test::LineaDeclarante()), (Outcome{1, 4, {{31, "2014"}}}));
+  EXPECT_TRUE(imp_.RechazarDeclaracion());
+  EXPECT_EQ(Spte(test::LineaDeclarado()), (Outcome{3, 4, {}})) << "importSpte leaves Resultado";
+  EXPECT_EQ(OpeArr(test::LineaDeclarado(), 2), (Outcome{3, 2, {}})) << "importOpeArr gives 2";
+  EXPECT_EQ(Count("tOperadores"), 0);
+
+  EXPECT_EQ(Spte(test::Set(test::LineaDeclarante("B20456786"), kCamposReg1_2014, "nombred", "")),
+            (Outcome{1, 3, {{1, ""}}}));
+  EXPECT_EQ(Spte(test::LineaDeclarante("B20456786") + "|"), (Outcome{1, 6, {{47, "|"}}}));
+  EXPECT_EQ(Count("TDeclarante"), 1);
+
+  imp_.EjercicioMax(2013);
+  EXPECT_EQ(Spte(test::LineaDeclarante("B20456786")), (Outcome{1, 0, {{44, "2014"}}}))
+      << "a year outside the accepted ones is imported all the same";
+  EXPECT_FALSE(imp_.RechazarDeclaracion());
+  EXPECT_EQ(Spte(test::LineaDeclarado()), (Outcome{3, 3, {{44, "2014"}}}))
+      << "its lines are checked against the years too";
+}
+
+TEST_F(ImpExpTest, ADeclarantIsFoundByTheFirstEightCharactersOfItsNif) {
+  cDeclarante declarante;
+  declarante.mdbmod(mod_);
+  const int32_t code = declarante.GuardarDeclarante(test::PersonBuffer(0, "12345678X", "Old"));
+  EXPECT_EQ(Spte(test::LineaDeclarante("12345678Z")), (Outcome{1, 1, {}}));
+  EXPECT_EQ(test::Rows(mod_, "SELECT coddec, dni_cifd, cod FROM TDeclarante"),
+            (Rows{{code, "12345678Z", 0}}))
+      << "the known declarant is rewritten with the record's values";
+  EXPECT_EQ(test::Rows(mod_, "SELECT coddecr FROM TDeclaraciones"), (Rows{{code}}));
+}
+
+TEST_F(ImpExpTest, LinesThatCannotBelongToTheDeclaration) {
+  Spte(test::LineaDeclarante());
+  const std::string y2013 = test::Set(test::LineaDeclarado(), kCamposReg2_2014, "ejercicio", "2013");
+  const struct {
+    const char* name;
+    std::string line;
+    Outcome outcome;
+  } rows[] = {
+      {"another year", y2013, {3, 6, {{48, "2013 - 2014"}}}},
+      {"a refused character comes first", y2013 + "è", {3, 6, {{47, "è"}}}},
+      {"100,000 characters", std::string(100000, '2'), {3, 6, {{48, "2222 - 2014"}}}},
+      {"cut in the middle of a field", Left(test::LineaArrendamiento(), 80),
+       {4, 3, {{4, ""}, {4, ""}, {2, ""}, {3, ""}}}},
+      {"amounts of letters and signs",
+       test::Set(test::LineaArrendamiento(), kCamposReg3_2014, "importe", "-+ABCDEFGHIJKLMN"),
+       {4, 3, {{36, "-+ABCDEFGHIJKLMN"}}}},
+      {"stored once", test::LineaDeclarado(), {3, 0, {}}},
+      {"the same party with the same keys", test::LineaDeclarado(), {3, 3, {{30, ""}}}},
+  };
+  for (const auto& row : rows) EXPECT_EQ(Spte(row.line), row.outcome) << row.name;
+  EXPECT_EQ(Count("tOperadores") + Count("tArrendamientos"), 1);
+}
+
+TEST_F(ImpExpTest, EarlierYearsAndTheStateLayoutAreRefusedUntilTheirModulesExist) {
+  imp_.EjercicioMin(2002);
+  Spte(test::LineaDeclarante("12345678Z", 2012));
+  const std::string y2012 = test::Set(test::LineaDeclarado(), kCamposReg2_2014, "ejercicio", "2012");
+  EXPECT_RAISES(Spte(y2012), errc::kInvalidProcedureCall);
+  Variant errores;
+  std::string line = test::LineaDeclarado();
+  EXPECT_RAISES(imp_.importSpte(line, errores, true), errc::kInvalidProcedureCall);
+  EXPECT_EQ(Count("tOperadores"), 0);
+}
+
+TEST_F(ImpExpTest, CurrencyAndKindsOfAnExistingDeclaration) {
+  cDeclaraciones declaraciones;
+  declaraciones.mdbmod(mod_);
+  cDeclarante declarante;
+  declarante.mdbmod(mod_);
+  const int32_t who = declarante.GuardarDeclarante(test::PersonBuffer(0, "12345678Z", "Ane"));
+  imp_.Declaracion(std::to_string(declaraciones.GuardarDeclaracion(2014, "E", who)));
+  EXPECT_EQ(OpeArr(test::LineaArrendamiento(), 0), (Outcome{4, 2, {}})) << "rentals not selected";
+  EXPECT_EQ(OpeArr(test::LineaArrendamiento(), 1), (Outcome{4, 0, {}}));
+  EXPECT_EQ(OpeArr(test::LineaDeclarado(), 1), (Outcome{3, 2, {}})) << "operations not selected";
+  EXPECT_EQ(OpeArr(test::Set(test::LineaDeclarante(), kCamposReg1_2014, "importeE",
+                             "0000000000P0000"), 2),
+            (Outcome{1, 0, {}}));
+  EXPECT_TRUE(imp_.Convertir()) << "a file in pesetas into a euro declaration";
+
+  imp_.Declaracion(std::to_string(declaraciones.GuardarDeclaracion(2013, "P", who)));
+  EXPECT_EQ(OpeArr(test::LineaDeclarante(), 2), (Outcome{1, 4, {{46, "P"}}}));
+  EXPECT_TRUE(imp_.RechazarDeclaracion());
+  EXPECT_EQ(OpeArr(test::LineaDeclarado(), 2), (Outcome{3, 2, {}}));
+  EXPECT_EQ(Count("tOperadores") + Count("tArrendamientos"), 1);
+}
+
+TEST_F(ImpExpTest, DeclarantsOfTheLatestYearByDefault) {
+  Spte(test::LineaDeclarante("12345678Z", 2013));
+  Spte(test::LineaDeclarante("B20456786", 2014));
+  int32_t year = 0;
+  std::string currency = " ";
+  const Variant list = imp_.ObtenerDeclarantes(year, currency);
+  EXPECT_EQ(year, 2014);
+  EXPECT_EQ(currency, "E");
+  ASSERT_EQ(list.AsArray().UBound(2), 1);
+  EXPECT_EQ(list(1, 1), Variant("B20456786"));
+}
+
+TEST_F(ImpExpTest, ByNameTheArgumentsComeBackAsTheMethodLeftThem) {
+  auto imp = CreateObject("zerbal.cImpExp");
+  imp->Let("mdbmod", mod_);
+  imp->Let("mdblec", lec_);
+  imp->Let("EjercicioMin", 2002);
+  imp->Let("EjercicioMax", 2014);
+  std::vector<Variant> args{test::LineaDeclarante(), Variant(), Variant()};
+  EXPECT_EQ(imp->Call("ImportarDte_Cion", args), Variant(uint8_t{0}));
+  ASSERT_TRUE(args[1].IsArray());
+  EXPECT_EQ(args[1].AsArray().UBound(), 18);
+  EXPECT_EQ(args[1](18), Variant("2014"));
+  EXPECT_EQ(args[2](0, 0), Variant()) << "no error";
+
+  std::vector<Variant> line{"2347" + std::string(10, ' ') + "è", Variant(), false};
+  imp->Call("importSpte", line);
+  EXPECT_EQ(test::ErrorList(line[1]), (Errors{{47, "è"}}));
+  EXPECT_EQ(imp->Get("Sujeto"), Variant(uint8_t{3}));
+  EXPECT_EQ(VarType(imp->Get("Resultado")), 17) << "a Byte";
+  EXPECT_RAISES(imp->Let("Sujeto", 1), errc::kMemberNotFound) << "read only";
+}
+
+}  // namespace
+}  // namespace zerbal
