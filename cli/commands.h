@@ -16,6 +16,8 @@ using Args = std::vector<std::string>;
 int RunInit(const Args& args, std::ostream& out, std::ostream& err);
 int RunDemo(const Args& args, std::ostream& out, std::ostream& err);
 int RunExport(const Args& args, std::ostream& out, std::ostream& err);
+// 0 every line stored, 3 some lines refused, 1 the import could not run.
+int RunImport(const Args& args, std::ostream& out, std::ostream& err);
 int RunAutomation(const Args& args, std::istream& in, std::ostream& out, std::ostream& err);
 
 // Writes "zerbal: <description> (error <number>)" for the library's error

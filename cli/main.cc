@@ -18,6 +18,9 @@ constexpr const char* kUsage =
     "  init DIR [--force]   create the data and lookup databases in DIR\n"
     "  demo [DIR]           run a short demonstration in DIR (default: a new\n"
     "                       temporary folder)\n"
+    "  import --dir DIR FILE\n"
+    "                       import a declaration file, reporting every line\n"
+    "                       not stored\n"
     "  export --dir DIR --year YEAR --out FILE\n"
     "                       write the declaration file of a fiscal year\n"
     "  nif [--vat] [ID...]  check Spanish tax identifiers (or VAT numbers)\n"
@@ -45,6 +48,7 @@ int main(int argc, char** argv) {
   }
   if (command == "init") return RunInit(args, std::cout, std::cerr);
   if (command == "demo") return RunDemo(args, std::cout, std::cerr);
+  if (command == "import") return RunImport(args, std::cout, std::cerr);
   if (command == "export") return RunExport(args, std::cout, std::cerr);
   if (command == "automation") return RunAutomation(args, std::cin, std::cout, std::cerr);
   if (command == "nif") return RunNif(args, std::cin, std::cout, std::cerr);

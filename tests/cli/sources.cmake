@@ -2,4 +2,5 @@ list(APPEND ZERBAL_TEST_SOURCES
   cli/cli_test.cc
   cli/export_target_test.cc
   cli/export_test.cc
+  cli/import_test.cc
 )
