@@ -1,0 +1,269 @@
+// Lines per second of `zerbal import` end to end (the same code: ImportFile
+// over a file on disk, into databases made as `zerbal init` makes them), at
+// three sizes of file, against a baseline in the same run: the same rows
+// inserted with raw prepared SQLite statements, one commit a row as the
+// import commits them.
+//
+// The file: 300 declarants of 2014 with 100,000 operations and 1,000 rentals
+// (101,301 lines with record 0), written by the export's own record writers.
+// The smaller sizes are its first lines.
+
+#include <benchmark/benchmark.h>
+#include <sqlite3.h>
+#include <stdlib.h>
+#include <sys/resource.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "cli/demo_data.h"
+#include "cli/import_file.h"
+#include "fileformat/export2014.h"
+#include "zerbal/databases.h"
+
+namespace zerbal::cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kDeclarants = 300;
+constexpr int kOperations = 100000;
+constexpr int kRentals = 1000;
+constexpr const char* kLetters = "TRWAGMYFPDXBNJZSQVHLCKE";
+
+std::string Dni(int number) { return std::to_string(number) + kLetters[number % 23]; }
+
+Variant Buffer(std::initializer_list<Variant> values) {
+  Variant b(Array(0, static_cast<int32_t>(values.size()) - 1));
+  int32_t i = 0;
+  for (const Variant& v : values) b(i++) = v;
+  return b;
+}
+
+// One row of each kind, as the file carries it and the baseline stores it.
+struct Operation {
+  std::string nif, name, key;
+  int64_t amount;
+};
+struct Rental {
+  std::string nif, name;
+  int64_t amount;
+};
+struct Declarant {
+  std::string nif, name;
+  std::vector<Operation> operations;
+  std::vector<Rental> rentals;
+};
+
+std::vector<Declarant> Data() {
+  std::vector<Declarant> data(kDeclarants);
+  for (int d = 0; d < kDeclarants; ++d) {
+    data[d].nif = Dni(10000000 + d);
+    data[d].name = "Aitortzailea " + std::to_string(d) + " S.L.";
+  }
+  for (int k = 0; k < kOperations; ++k) {
+    Declarant& d = data[k % kDeclarants];
+    const int party = 20000000 + static_cast<int>(d.operations.size());
+    d.operations.push_back({Dni(party), "Hirugarrena " + std::to_string(party), "AB"[k % 2] + std::string(),
+                            400000 + 4 * (k % 1000)});
+  }
+  for (int k = 0; k < kRentals; ++k) {
+    data[k % kDeclarants].rentals.push_back({Dni(30000000 + k), "Maizterra " + std::to_string(k),
+                                             1200000});
+  }
+  return data;
+}
+
+Variant DeclarantBuffer(const Declarant& d) {
+  return Buffer({0, d.nif, d.name, "", "", 0, "", "", "", "", 0, "0", "", 0, "", "", 0, ""});
+}
+
+Variant OperationBuffer(const Operation& op) {
+  const std::string quarter = std::to_string(op.amount / 4);
+  return Buffer({"1", "20", " ", op.nif, op.name, op.key, std::to_string(op.amount), "0", "0", "",
+                 "", "", quarter, quarter, quarter, quarter, "0", "0", "0", "0", "0", "", "", "",
+                 "", "", "0"});
+}
+
+Variant RentalBuffer(const Rental& r) {
+  return Buffer({"1", "20", "", r.nif, r.name, std::to_string(r.amount), "Donostia",
+                 "9872023VH5797S0001WX", "CL", "Easo", "21", "", "", "", "20"});
+}
+
+// Writes the file once, in Windows-1252 with CR LF, as `zerbal export` does.
+fs::path MakeFile(const fs::path& dir, const std::vector<Declarant>& data) {
+  const fs::path file = dir / "347_2014.txt";
+  std::ofstream out(file, std::ios::binary);
+  out << Export2014::GenerarReg0(SamplePresenter(), kDeclarants, kOperations + kRentals, 2014)
+      << "\r\n";
+  for (const Declarant& d : data) {
+    const Variant declarant = DeclarantBuffer(d);
+    out << Utf8ToWindows1252(Export2014::GenerarReg1(declarant, Variant::Null(), "E", 2014))
+        << "\r\n";
+    for (const Operation& op : d.operations) {
+      out << Utf8ToWindows1252(Export2014::GenerarReg2(2014, OperationBuffer(op), declarant, "E"))
+          << "\r\n";
+    }
+    for (const Rental& r : d.rentals) {
+      out << Utf8ToWindows1252(
+                 Export2014::GenerarReg3(2014, RentalBuffer(r), declarant, "E").AsString())
+          << "\r\n";
+    }
+  }
+  return file;
+}
+
+struct Fixture {
+  fs::path dir;
+  std::vector<Declarant> data;
+  fs::path file;
+  Fixture() {
+    std::string pattern = (fs::temp_directory_path() / "zerbal-bench-XXXXXX").string();
+    if (::mkdtemp(pattern.data()) == nullptr) std::abort();
+    dir = pattern;
+    data = Data();
+    file = MakeFile(dir, data);
+  }
+  ~Fixture() { fs::remove_all(dir); }
+};
+
+Fixture& Shared() {
+  static Fixture fixture;
+  return fixture;
+}
+
+// The first `lines` lines of the file, on their own.
+fs::path Prefix(int64_t lines) {
+  const fs::path out = Shared().dir / ("first_" + std::to_string(lines) + ".txt");
+  if (fs::exists(out)) return out;
+  std::ifstream in(Shared().file, std::ios::binary);
+  std::ofstream copy(out, std::ios::binary);
+  std::string line;
+  for (int64_t k = 0; k < lines && std::getline(in, line); ++k) copy << line << "\n";
+  return out;
+}
+
+DatabasePaths FreshDatabases(const std::string& name) {
+  const fs::path folder = Shared().dir / name;
+  fs::remove_all(folder);
+  return CreateDatabases(folder);
+}
+
+double MaxRssMegabytes() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss / 1024.0;
+}
+
+void BM_ImportFile(benchmark::State& state) {
+  const fs::path file = Prefix(state.range(0));
+  int64_t lines = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    const DatabasePaths paths = FreshDatabases("import");
+    ImportOptions options;
+    options.data = paths.data;
+    options.lookup = paths.lookup;
+    options.file = file;
+    options.year_max = 2014;
+    state.ResumeTiming();
+    const ImportSummary s = ImportFile(options);
+    if (s.refused != 0) state.SkipWithError("lines were refused");
+    lines += s.lines;
+  }
+  state.counters["lines/s"] = benchmark::Counter(static_cast<double>(lines), benchmark::Counter::kIsRate);
+  state.counters["us/line"] = benchmark::Counter(static_cast<double>(lines),
+                                                 benchmark::Counter::kIsRate |
+                                                     benchmark::Counter::kInvert);
+  state.counters["maxrss_MB"] = MaxRssMegabytes();
+}
+BENCHMARK(BM_ImportFile)->Arg(1000)->Arg(10000)->Arg(101301)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
+
+// The baseline: every row of the file inserted with prepared statements.
+class Raw {
+ public:
+  explicit Raw(const fs::path& path) {
+    sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr);
+    sqlite3_exec(db_, "PRAGMA synchronous = NORMAL", nullptr, nullptr, nullptr);
+    declarant_ = Prepare("INSERT INTO TDeclarante (dni_cifd, nombred) VALUES (?, ?)");
+    declaration_ = Prepare("INSERT INTO TDeclaraciones (coddecr, ejercicio, moneda) VALUES (?, 2014, 'E')");
+    operation_ = Prepare(
+        "INSERT INTO tOperadores (coddeclar, provo, paiso, nifo, razon, claveopo, importe, impmet, "
+        "impinm, claverep, opeseg, opearr, impopeT1, impopeT2, impopeT3, impopeT4, impmobT1, "
+        "impmobT2, impmobT3, impmobT4, ejerimpmet, siglaspaisintra, nifpaisintra, opeivacaja, "
+        "opeinvsujpas, operegposadu, impanudevopecaj) VALUES (?, 20, ' ', ?, ?, ?, ?, 0, 0, ' ', "
+        "' ', ' ', ?, ?, ?, ?, 0, 0, 0, 0, 0, ' ', ' ', ' ', ' ', ' ', 0)");
+    rental_ = Prepare(
+        "INSERT INTO tArrendamientos (coddeclar, provi, prova, paiso, nifa, razon, importe, "
+        "municipioa, refcat, viaa, domicilioa, numeroa, escaleraa, pisoa, puertaa) VALUES (?, 20, "
+        "20, ' ', ?, ?, ?, 'Donostia', '9872023VH5797S0001WX', 'CL', 'Easo', 21, ' ', ' ', ' ')");
+  }
+  ~Raw() {
+    for (sqlite3_stmt* s : {declarant_, declaration_, operation_, rental_}) sqlite3_finalize(s);
+    sqlite3_close(db_);
+  }
+
+  void Declarant(const struct Declarant& d) {
+    Text(declarant_, 1, d.nif);
+    Text(declarant_, 2, d.name);
+    Step(declarant_);
+    sqlite3_bind_int64(declaration_, 1, sqlite3_last_insert_rowid(db_));
+    Step(declaration_);
+    const int64_t declaration = sqlite3_last_insert_rowid(db_);
+    for (const Operation& op : d.operations) {
+      sqlite3_bind_int64(operation_, 1, declaration);
+      Text(operation_, 2, op.nif);
+      Text(operation_, 3, op.name);
+      Text(operation_, 4, op.key);
+      sqlite3_bind_double(operation_, 5, static_cast<double>(op.amount));
+      for (int q = 0; q < 4; ++q) sqlite3_bind_double(operation_, 6 + q, op.amount / 4);
+      Step(operation_);
+    }
+    for (const Rental& r : d.rentals) {
+      sqlite3_bind_int64(rental_, 1, declaration);
+      Text(rental_, 2, r.nif);
+      Text(rental_, 3, r.name);
+      sqlite3_bind_double(rental_, 4, static_cast<double>(r.amount));
+      Step(rental_);
+    }
+  }
+
+ private:
+  sqlite3_stmt* Prepare(const char* sql) {
+    sqlite3_stmt* s = nullptr;
+    if (sqlite3_prepare_v2(db_, sql, -1, &s, nullptr) != SQLITE_OK) std::abort();
+    return s;
+  }
+  static void Text(sqlite3_stmt* s, int i, const std::string& text) {
+    sqlite3_bind_text(s, i, text.c_str(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+  }
+  static void Step(sqlite3_stmt* s) {
+    if (sqlite3_step(s) != SQLITE_DONE) std::abort();
+    sqlite3_reset(s);
+  }
+  sqlite3* db_ = nullptr;
+  sqlite3_stmt *declarant_, *declaration_, *operation_, *rental_;
+};
+
+void BM_RawInsertBaseline(benchmark::State& state) {
+  int64_t rows = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    const DatabasePaths paths = FreshDatabases("raw");
+    state.ResumeTiming();
+    Raw raw(paths.data);
+    for (const Declarant& d : Shared().data) {
+      raw.Declarant(d);
+      rows += 1 + static_cast<int64_t>(d.operations.size() + d.rentals.size());
+    }
+  }
+  rows += state.iterations();  // record 0, which the import reads and stores nothing for
+  state.counters["lines/s"] = benchmark::Counter(static_cast<double>(rows), benchmark::Counter::kIsRate);
+}
+BENCHMARK(BM_RawInsertBaseline)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
+
+}  // namespace
+}  // namespace zerbal::cli
