@@ -67,8 +67,8 @@ std::vector<Declarant> Data() {
   for (int k = 0; k < kOperations; ++k) {
     Declarant& d = data[k % kDeclarants];
     const int party = 20000000 + static_cast<int>(d.operations.size());
-    d.operations.push_back({Dni(party), "Hirugarrena " + std::to_string(party), "AB"[k % 2] + std::string(),
-                            400000 + 4 * (k % 1000)});
+    d.operations.push_back({Dni(party), "Hirugarrena " + std::to_string(party),
+                            "AB"[k % 2] + std::string(), 400000 + 4 * (k % 1000)});
   }
   for (int k = 0; k < kRentals; ++k) {
     data[k % kDeclarants].rentals.push_back({Dni(30000000 + k), "Maizterra " + std::to_string(k),
@@ -174,13 +174,20 @@ void BM_ImportFile(benchmark::State& state) {
     if (s.refused != 0) state.SkipWithError("lines were refused");
     lines += s.lines;
   }
-  state.counters["lines/s"] = benchmark::Counter(static_cast<double>(lines), benchmark::Counter::kIsRate);
+  state.counters["lines/s"] =
+      benchmark::Counter(static_cast<double>(lines), benchmark::Counter::kIsRate);
   state.counters["us/line"] = benchmark::Counter(static_cast<double>(lines),
                                                  benchmark::Counter::kIsRate |
                                                      benchmark::Counter::kInvert);
   state.counters["maxrss_MB"] = MaxRssMegabytes();
 }
-BENCHMARK(BM_ImportFile)->Arg(1000)->Arg(10000)->Arg(101301)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
+BENCHMARK(BM_ImportFile)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Arg(101301)
+    ->Iterations(1)
+    ->Unit(benchmark::kSecond)
+    ->UseRealTime();
 
 // The baseline: every row of the file inserted with prepared statements.
 class Raw {
@@ -189,7 +196,8 @@ class Raw {
     sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr);
     sqlite3_exec(db_, "PRAGMA synchronous = NORMAL", nullptr, nullptr, nullptr);
     declarant_ = Prepare("INSERT INTO TDeclarante (dni_cifd, nombred) VALUES (?, ?)");
-    declaration_ = Prepare("INSERT INTO TDeclaraciones (coddecr, ejercicio, moneda) VALUES (?, 2014, 'E')");
+    declaration_ =
+        Prepare("INSERT INTO TDeclaraciones (coddecr, ejercicio, moneda) VALUES (?, 2014, 'E')");
     operation_ = Prepare(
         "INSERT INTO tOperadores (coddeclar, provo, paiso, nifo, razon, claveopo, importe, impmet, "
         "impinm, claverep, opeseg, opearr, impopeT1, impopeT2, impopeT3, impopeT4, impmobT1, "
@@ -261,7 +269,8 @@ void BM_RawInsertBaseline(benchmark::State& state) {
     }
   }
   rows += state.iterations();  // record 0, which the import reads and stores nothing for
-  state.counters["lines/s"] = benchmark::Counter(static_cast<double>(rows), benchmark::Counter::kIsRate);
+  state.counters["lines/s"] =
+      benchmark::Counter(static_cast<double>(rows), benchmark::Counter::kIsRate);
 }
 BENCHMARK(BM_RawInsertBaseline)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
 

@@ -125,7 +125,8 @@ bool Parse(const Args& args, Command& c) {
 }
 
 // `text` with "{n}" and the other places filled in.
-std::string Fill(std::string_view text, std::initializer_list<std::pair<char, std::string>> values) {
+std::string Fill(std::string_view text,
+                 std::initializer_list<std::pair<char, std::string>> values) {
   std::string out(text);
   for (const auto& [key, value] : values) {
     const std::string place = std::string("{") + key + "}";
@@ -199,7 +200,8 @@ void PrintJson(const LineOutcome& out, Lang lang, std::ostream& os) {
                {"outcome", kOutcomes[static_cast<int>(out.outcome)]},
                {"errors", json::array()}};
   for (const LineError& e : out.errors) {
-    line["errors"].push_back({{"number", e.number}, {"text", TextFor(e, lang)}, {"value", e.value}});
+    line["errors"].push_back(
+        {{"number", e.number}, {"text", TextFor(e, lang)}, {"value", e.value}});
   }
   os << line.dump(-1, ' ', false, json::error_handler_t::replace) << "\n";
 }

@@ -149,7 +149,8 @@ void Tally(const LineOutcome& out, bool whole_declarations, ImportSummary& s) {
 
 void CheckDatabase(const fs::path& path, const char* what) {
   if (!fs::is_regular_file(path)) {
-    throw ImportStopped("there is no " + std::string(what) + " database at " + path.string(), {}, 0);
+    throw ImportStopped("there is no " + std::string(what) + " database at " + path.string(), {},
+                        0);
   }
 }
 

@@ -67,7 +67,8 @@ constexpr ErrorText kErrorTexts[] = {
     {67, "Marca de inversión del sujeto pasivo distinta de X",
      "X ez den subjektu pasiboaren inbertsioaren marka"},
     {68, "Marca de depósito aduanero distinta de X", "X ez den aduana-gordailuaren marka"},
-    {69, "Importe con criterio de caja sin su marca", "Kutxa irizpideko zenbatekoa bere markarik gabe"},
+    {69, "Importe con criterio de caja sin su marca",
+     "Kutxa irizpideko zenbatekoa bere markarik gabe"},
 };
 
 struct WordText {

@@ -104,6 +104,18 @@ Variant VariantMethod(typename MethodOf<decltype(kMethod)>::Class& self, Args& a
   return AsResult([&] { return (self.*kMethod)(args[0]); });
 }
 
+// A property of class T that is read and written through its getter and
+// setter of the same name, as its two members (`Convert` reads the value:
+// StringArg, LongArg, ...).
+#define ZERBAL_BOUND_PROPERTY(T, Name, Convert)                                \
+  {#Name, ::zerbal::Invocation::kPropertyGet, 0, 0,                            \
+   [](T& c, ::zerbal::automation::Args&) { return ::zerbal::Variant(c.Name()); }}, \
+  {#Name, ::zerbal::Invocation::kPropertyLet, 1, 0,                            \
+   [](T& c, ::zerbal::automation::Args& a) {                                   \
+     c.Name(Convert(a, 0));                                                    \
+     return ::zerbal::Variant();                                               \
+   }}
+
 template <typename T>
 class Bound final : public AutomationObject {
  public:

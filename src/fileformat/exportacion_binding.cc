@@ -10,22 +10,13 @@ namespace {
 
 using C = cExportacion;
 
-// A property of cExportacion that is read and written, as its two members.
-#define ZERBAL_PROPERTY(Name, Convert)                                         \
-  {#Name, Invocation::kPropertyGet, 0, 0,                                      \
-   [](C& c, Args&) { return Variant(c.Name()); }},                             \
-  {#Name, Invocation::kPropertyLet, 1, 0, [](C& c, Args& a) {                  \
-     c.Name(Convert(a, 0));                                                    \
-     return Variant();                                                         \
-   }}
-
 constexpr Member<C> kExportacion[] = {
-    ZERBAL_PROPERTY(Declaracion, StringArg),
-    ZERBAL_PROPERTY(mdblec, StringArg),
-    ZERBAL_PROPERTY(mdbmod, StringArg),
-    ZERBAL_PROPERTY(Ejercicio, LongArg),
-    ZERBAL_PROPERTY(Moneda, StringArg),
-    ZERBAL_PROPERTY(NoTotalDeclArren, LongArg),
+    ZERBAL_BOUND_PROPERTY(C, Declaracion, StringArg),
+    ZERBAL_BOUND_PROPERTY(C, mdblec, StringArg),
+    ZERBAL_BOUND_PROPERTY(C, mdbmod, StringArg),
+    ZERBAL_BOUND_PROPERTY(C, Ejercicio, LongArg),
+    ZERBAL_BOUND_PROPERTY(C, Moneda, StringArg),
+    ZERBAL_BOUND_PROPERTY(C, NoTotalDeclArren, LongArg),
     {"ExportarDtes", Invocation::kMethod, 2, 0,
      [](C& c, Args& a) { return Variant(c.ExportarDtes(StringArg(a, 0), a[1])); }},
     {"TotalDeclarados", Invocation::kMethod, 3, 0,
@@ -43,8 +34,6 @@ constexpr Member<C> kExportacion[] = {
     {"ExportarReg3", Invocation::kMethod, 2, 0,
      [](C& c, Args& a) { return c.ExportarReg3(a[0], IntegerArg(a, 1)); }},
 };
-
-#undef ZERBAL_PROPERTY
 
 constexpr Member<cTImpExp> kTImpExp[] = {
     {"ObtenerDeclarantes", Invocation::kMethod, 2, 0,

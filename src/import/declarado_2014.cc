@@ -147,7 +147,8 @@ class ValidacionDeclarado : public Validacion {
     if (!Trim(pais).empty() && Trim(pais) != "00") Anadir(kPaisResidente, pais);
     Provincia(prov);
     const std::string clave_ope = UCase(Valor("ClaveOpe"));
-    if (UCase(Valor("ClaveArr")) == "X" && (clave_ope == "C" || clave_ope == "D" || clave_ope == "E")) {
+    if (UCase(Valor("ClaveArr")) == "X" &&
+        (clave_ope == "C" || clave_ope == "D" || clave_ope == "E")) {
       Anadir(kArrendamientoClave, "");
     }
   }

@@ -129,7 +129,8 @@ void cImpExp::importSpte(std::string& strLineaLectura, Variant& vBufferErrores, 
   switch (sujeto_) {
     case 1:
       resultado_ = ImportarDte_Cion(strLineaLectura, valores, vBufferErrores);
-      if (resultado_ == 0 && !rechazar_) convertir_ = ComprobarMoneda(strLineaLectura, vBufferErrores);
+      if (resultado_ == 0 && !rechazar_)
+        convertir_ = ComprobarMoneda(strLineaLectura, vBufferErrores);
       break;
     case 3:
       if (!rechazar_) resultado_ = ImportarDeclarado(strLineaLectura, valores, vBufferErrores);
@@ -175,7 +176,8 @@ bool cImpExp::Clasificar(const std::string& strLineaLectura) {
 }
 
 void cImpExp::ConvertirEstatal(std::string& strLineaLectura, const std::string& strRuta) {
-  const Conversor conversor = ConversorEstatal(static_cast<int32_t>(Val(Mid(strLineaLectura, 5, 4))));
+  const Conversor conversor =
+      ConversorEstatal(static_cast<int32_t>(Val(Mid(strLineaLectura, 5, 4))));
   if (conversor == nullptr) NoImportado("lines in the state agency's layout");
   strLineaLectura = conversor(strLineaLectura, strRuta);
 }
@@ -236,7 +238,8 @@ uint8_t cImpExp::ImportarDeclarado(const std::string& strLinea, Variant& vBuffer
 uint8_t cImpExp::ImportarArrendamiento(const std::string& strLinea, Variant& vBufferValores,
                                        Variant& vBufferErrores) {
   int32_t ejercicio = 0;
-  const uint8_t resultado = ValidarLinea(strLinea, vBufferValores, vBufferErrores, false, ejercicio);
+  const uint8_t resultado =
+      ValidarLinea(strLinea, vBufferValores, vBufferErrores, false, ejercicio);
   if (resultado != 0) return resultado;
   const Variant buffer = BufferArrendamiento(vBufferValores, declaracion_, ejercicio);
   if (ejercicio >= 2008) {

@@ -11,14 +11,6 @@ namespace {
 
 using C = cImpExp;
 
-#define ZERBAL_PROPERTY(Name, Convert)                                         \
-  {#Name, Invocation::kPropertyGet, 0, 0,                                      \
-   [](C& c, Args&) { return Variant(c.Name()); }},                             \
-  {#Name, Invocation::kPropertyLet, 1, 0, [](C& c, Args& a) {                  \
-     c.Name(Convert(a, 0));                                                    \
-     return Variant();                                                         \
-   }}
-
 // A declarant line with its values and errors buffers (arguments 1 and 2).
 template <uint8_t (C::*kMethod)(const std::string&, Variant&, Variant&)>
 Variant DeclarantLine(C& c, Args& a) {
@@ -26,14 +18,14 @@ Variant DeclarantLine(C& c, Args& a) {
 }
 
 constexpr Member<C> kMembers[] = {
-    ZERBAL_PROPERTY(mdbmod, StringArg),
-    ZERBAL_PROPERTY(mdblec, StringArg),
-    ZERBAL_PROPERTY(EjercicioMin, LongArg),
-    ZERBAL_PROPERTY(EjercicioMax, LongArg),
-    ZERBAL_PROPERTY(Declaracion, StringArg),
-    ZERBAL_PROPERTY(RechazarDeclaracion, BooleanArg),
-    ZERBAL_PROPERTY(Convertir, BooleanArg),
-    ZERBAL_PROPERTY(Resultado, ByteArg),
+    ZERBAL_BOUND_PROPERTY(C, mdbmod, StringArg),
+    ZERBAL_BOUND_PROPERTY(C, mdblec, StringArg),
+    ZERBAL_BOUND_PROPERTY(C, EjercicioMin, LongArg),
+    ZERBAL_BOUND_PROPERTY(C, EjercicioMax, LongArg),
+    ZERBAL_BOUND_PROPERTY(C, Declaracion, StringArg),
+    ZERBAL_BOUND_PROPERTY(C, RechazarDeclaracion, BooleanArg),
+    ZERBAL_BOUND_PROPERTY(C, Convertir, BooleanArg),
+    ZERBAL_BOUND_PROPERTY(C, Resultado, ByteArg),
     {"Sujeto", Invocation::kPropertyGet, 0, 0, [](C& c, Args&) { return Variant(c.Sujeto()); }},
     {"ObtenerDeclarantes", Invocation::kMethod, 2, 0,
      [](C& c, Args& a) {
@@ -63,8 +55,6 @@ constexpr Member<C> kMembers[] = {
     {"ComprobarDeclaracion", Invocation::kMethod, 2, 0,
      [](C& c, Args& a) { return Variant(c.ComprobarDeclaracion(a[0], a[1])); }},
 };
-
-#undef ZERBAL_PROPERTY
 
 }  // namespace
 

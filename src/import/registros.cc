@@ -47,7 +47,8 @@ Variant BufferDeclarado(const Variant& v, int32_t lngDeclaracion) {
   b(6) = Trim(campo("ClaveOpe"));
   b(7) = importe(Alguno(v, {"ImpOpe", "Importe"}));
   b(8) = ejercicio <= 2007 ? Variant(int32_t{0}) : Variant(Trim(campo("ImpMet")));
-  b(9) = ejercicio <= 2007 ? Variant(int32_t{0}) : Variant(importe(Alguno(v, {"ImpTra", "ImpInm"})));
+  b(9) =
+      ejercicio <= 2007 ? Variant(int32_t{0}) : Variant(importe(Alguno(v, {"ImpTra", "ImpInm"})));
   b(10) = UCase(Trim(campo("ClaveRep")));
   b(11) = UCase(Trim(campo("ClaveSeg")));
   b(12) = UCase(Trim(campo("ClaveArr")));

@@ -7,11 +7,8 @@
 #include "cli/commands.h"
 #include "cli/demo_data.h"
 #include "cli/export_file.h"
+#include "demo_year.h"
 #include "testutil.h"
-#include "zerbal/arrendamiento.h"
-#include "zerbal/declaraciones.h"
-#include "zerbal/declarado.h"
-#include "zerbal/declarante.h"
 #include "zerbal/presentador.h"
 
 namespace zerbal::cli {
@@ -34,33 +31,7 @@ std::vector<std::string> Lines(const fs::path& path) {
 
 class ExportYearTest : public test::DatabaseTest {
  protected:
-  // The demo's sample declarants in `year`, and the presenter when asked.
-  void Fill(int32_t year, bool presenter) {
-    cDeclarante declarante;
-    cDeclaraciones declaraciones;
-    cDeclarado declarado;
-    cArrendamiento arrendamiento;
-    for (PathProperties* c : std::initializer_list<PathProperties*>{
-             &declarante, &declaraciones, &declarado, &arrendamiento}) {
-      c->mdbmod(mod_);
-    }
-    for (const DemoDeclarant& d : SampleDeclarants()) {
-      const int32_t declaration =
-          declaraciones.GuardarDeclaracion(year, "E", declarante.GuardarDeclarante(DeclarantBuffer(d)));
-      for (const DemoOperation& op : d.operations) {
-        if (year < 2011 && op.amount < 0) continue;  // the unsigned layouts have no place for it
-        declarado.GuardarDeclarado(OperationBuffer(declaration, year, op));
-      }
-      for (const DemoRental& r : d.rentals) {
-        arrendamiento.GuardarArrendamiento(RentalBuffer(declaration, r));
-      }
-    }
-    if (presenter) {
-      cPresentador p;
-      p.mdbmod(mod_);
-      p.GuardarPresentador(SamplePresenter());
-    }
-  }
+  void Fill(int32_t year, bool presenter) { test::FillDemoYear(mod_, year, presenter); }
   ExportOptions Options(int32_t year) {
     ExportOptions o;
     o.data = mod_;

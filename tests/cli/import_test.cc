@@ -16,13 +16,12 @@
 #include "cli/import_file.h"
 #include "cli/import_texts.h"
 #include "data/buffers.h"
+#include "demo_year.h"
 #include "import/errores.h"
 #include "import/lineas.h"
 #include "testutil.h"
-#include "zerbal/arrendamiento.h"
 #include "zerbal/databases.h"
 #include "zerbal/declaraciones.h"
-#include "zerbal/declarado.h"
 #include "zerbal/declarante.h"
 #include "zerbal/presentador.h"
 
@@ -59,29 +58,6 @@ void SavePresenter(const fs::path& data) {
   p.GuardarPresentador(SamplePresenter());
 }
 
-// The demo's declarants with their 2014 declarations, and the presenter.
-void FillDemoYear(const fs::path& data) {
-  cDeclarante declarante;
-  cDeclaraciones declaraciones;
-  cDeclarado declarado;
-  cArrendamiento arrendamiento;
-  for (PathProperties* c : std::initializer_list<PathProperties*>{
-           &declarante, &declaraciones, &declarado, &arrendamiento}) {
-    c->mdbmod(data.string());
-  }
-  for (const DemoDeclarant& d : SampleDeclarants()) {
-    const int32_t declaration = declaraciones.GuardarDeclaracion(
-        2014, "E", declarante.GuardarDeclarante(DeclarantBuffer(d)));
-    for (const DemoOperation& op : d.operations) {
-      declarado.GuardarDeclarado(OperationBuffer(declaration, 2014, op));
-    }
-    for (const DemoRental& r : d.rentals) {
-      arrendamiento.GuardarArrendamiento(RentalBuffer(declaration, r));
-    }
-  }
-  SavePresenter(data);
-}
-
 fs::path Export(const fs::path& data, const fs::path& out) {
   ExportOptions o;
   o.data = data;
@@ -107,7 +83,7 @@ std::vector<std::string> Comparable(const std::string& file) {
 TEST(ImportFileTest, TheDemoYearComesBackAsItWasExportedBarWhatTheImportRefuses) {
   test::TempDir dir;
   const DatabasePaths a = CreateDatabases(dir / "a");
-  FillDemoYear(a.data);
+  test::FillDemoYear(a.data.string(), 2014, true);
   const fs::path file = Export(a.data, dir / "347_2014.txt");
   const DatabasePaths b = CreateDatabases(dir / "b");
   SavePresenter(b.data);
@@ -236,7 +212,9 @@ TEST_F(ImportCommandTest, InputThatIsNoDeclarationFile) {
        "53  La suma de los trimestres"},
       {"amounts of letters and signs",
        DeclarantRecord() + "\n" +
-           OperationRecord().replace(75, 16, "N+-ABCDEFGHIJKLM").replace(128, 16, "X-+ABCDEFGHIJKLM"),
+           OperationRecord()
+               .replace(75, 16, "N+-ABCDEFGHIJKLM")
+               .replace(128, 16, "X-+ABCDEFGHIJKLM"),
        "36  Importe con caracteres no numéricos: \"N+-ABCDEFGHIJKLM\"\n"
        "  56  Signo del importe no válido: \"X-+ABCDEFGHIJKLM\""},
   };

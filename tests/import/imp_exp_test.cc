@@ -41,12 +41,14 @@ class ImpExpTest : public test::DatabaseTest {
   Outcome Spte(std::string line) {
     Variant errores;
     imp_.importSpte(line, errores, false);
-    return {imp_.Sujeto(), imp_.Resultado(), errores.IsArray() ? test::ErrorList(errores) : Errors{}};
+    return {imp_.Sujeto(), imp_.Resultado(),
+            errores.IsArray() ? test::ErrorList(errores) : Errors{}};
   }
   Outcome OpeArr(std::string line, uint8_t arr_ope) {
     Variant valores, errores;
     imp_.importOpeArr(line, valores, errores, false, arr_ope);
-    return {imp_.Sujeto(), imp_.Resultado(), errores.IsArray() ? test::ErrorList(errores) : Errors{}};
+    return {imp_.Sujeto(), imp_.Resultado(),
+            errores.IsArray() ? test::ErrorList(errores) : Errors{}};
   }
   int64_t Count(const std::string& table) {
     return test::Rows(mod_, "SELECT COUNT(*) FROM " + table)[0][0].AsLong();
@@ -72,7 +74,8 @@ TEST_F(ImpExpTest, EachRecordTypeSetsSujetoAndResultado) {
       {"rental", test::LineaArrendamiento(), {4, 0, {}}},
   };
   for (const auto& row : rows) EXPECT_EQ(Spte(row.line), row.outcome) << row.name;
-  const Rows declarations = test::Rows(mod_, "SELECT coddecla, ejercicio, moneda FROM TDeclaraciones");
+  const Rows declarations =
+      test::Rows(mod_, "SELECT coddecla, ejercicio, moneda FROM TDeclaraciones");
   ASSERT_EQ(declarations.size(), 1u);
   EXPECT_EQ(Variant(imp_.Declaracion()), Variant(std::to_string(declarations[0][0].AsLong())));
   EXPECT_EQ(declarations[0][1], Variant(2014));
@@ -99,8 +102,9 @@ TEST_F(ImpExpTest, StoredRowsAreTheSaveBuffersOfTheLines) {
   ASSERT_EQ(Spte(test::LineaArrendamiento()), (Outcome{4, 0, {}}));
   ASSERT_EQ(Spte(test::Set(test::LineaArrendamiento(), kCamposReg3_2014, "nifa", "")),
             (Outcome{4, 0, {}}));
-  EXPECT_EQ(test::Rows(mod_, "SELECT nifa, paiso, provi, prova, importe, numeroa FROM tArrendamientos"),
-            (Rows{{"X2482300W", "", 20, 20, 1800000.0, 21}, {" ", "OP", 20, 0, 1800000.0, 21}}))
+  EXPECT_EQ(
+      test::Rows(mod_, "SELECT nifa, paiso, provi, prova, importe, numeroa FROM tArrendamientos"),
+      (Rows{{"X2482300W", "", 20, 20, 1800000.0, 21}, {" ", "OP", 20, 0, 1800000.0, 21}}))
       << "the province doubles as prova only where the country is empty";
 }
 
@@ -138,7 +142,8 @@ TEST_F(ImpExpTest, ADeclarantIsFoundByTheFirstEightCharactersOfItsNif) {
 
 TEST_F(ImpExpTest, LinesThatCannotBelongToTheDeclaration) {
   Spte(test::LineaDeclarante());
-  const std::string y2013 = test::Set(test::LineaDeclarado(), kCamposReg2_2014, "ejercicio", "2013");
+  const std::string y2013 =
+      test::Set(test::LineaDeclarado(), kCamposReg2_2014, "ejercicio", "2013");
   const struct {
     const char* name;
     std::string line;
@@ -162,7 +167,8 @@ TEST_F(ImpExpTest, LinesThatCannotBelongToTheDeclaration) {
 TEST_F(ImpExpTest, EarlierYearsAndTheStateLayoutAreRefusedUntilTheirModulesExist) {
   imp_.EjercicioMin(2002);
   Spte(test::LineaDeclarante("12345678Z", 2012));
-  const std::string y2012 = test::Set(test::LineaDeclarado(), kCamposReg2_2014, "ejercicio", "2012");
+  const std::string y2012 =
+      test::Set(test::LineaDeclarado(), kCamposReg2_2014, "ejercicio", "2012");
   EXPECT_RAISES(Spte(y2012), errc::kInvalidProcedureCall);
   Variant errores;
   std::string line = test::LineaDeclarado();

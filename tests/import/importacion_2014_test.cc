@@ -140,8 +140,9 @@ TEST_F(Importacion2014Test, EveryRuleOfARentalLine) {
       {"province unknown", {{"provi", "00"}}, {{4, ""}}},
   };
   for (const Row& row : rows) {
-    EXPECT_EQ(Arrendamiento(test::Changed(test::LineaArrendamiento(), kCamposReg3_2014, row.changes)),
-              row.errors)
+    EXPECT_EQ(
+        Arrendamiento(test::Changed(test::LineaArrendamiento(), kCamposReg3_2014, row.changes)),
+        row.errors)
         << row.name;
   }
 }

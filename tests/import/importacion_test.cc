@@ -31,7 +31,8 @@ TEST(ImportacionTest, CharactersAreCheckedAgainstTheTableFirstOffenderOnly) {
       {"ok\xE9 not UTF-8", {{47, "\uFFFD"}}},
       {"ł has no code page place: it counts as ?", {}},
   };
-  for (const auto& row : rows) EXPECT_EQ(ErrorList(ValidarCaracteres(row.line)), row.errors) << row.line;
+  for (const auto& row : rows)
+    EXPECT_EQ(ErrorList(ValidarCaracteres(row.line)), row.errors) << row.line;
   const std::array<bool, 256> tabla = TablaCaracteres();
   int allowed = 0;
   for (bool entry : tabla) allowed += entry;

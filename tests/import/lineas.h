@@ -30,9 +30,12 @@ inline std::string LineaDeclarante(const std::string& nif = "12345678Z", int32_t
 // A resident party in Gipuzkoa, key A, 1000 cents over four quarters.
 inline std::string LineaDeclarado() {
   return Export2014::GenerarReg2(
-      2014,
-      Buffer({"1", "20", "", "54362315K", "Goikoetxea Larrañaga, Ane", "A", "1000", "0", "0", "",
-              "", "", "250", "250", "250", "250", "0", "0", "0", "0", "0", "", "", "", "", "", "0"}),
+      2014, Buffer({"1",   "20",   "",    "54362315K", "Goikoetxea Larrañaga, Ane",
+                    "A",   "1000", "0",   "0",         "",
+                    "",    "",     "250", "250",       "250",
+                    "250", "0",    "0",   "0",         "0",
+                    "0",   "",     "",    "",          "",
+                    "",    "0"}),
       DeclaranteLinea("12345678Z"), "E");
 }
 
