@@ -1,15 +1,14 @@
 // Lines per second of `zerbal import` end to end (the same code: ImportFile
 // over a file on disk, into databases made as `zerbal init` makes them), at
 // three sizes of file, against a baseline in the same run: the same rows
-// inserted with raw prepared SQLite statements, one commit a row as the
-// import commits them.
+// inserted with raw prepared SQLite statements, on a connection of the same
+// engine settings, one transaction a row as the import commits them.
 //
 // The file: 300 declarants of 2014 with 100,000 operations and 1,000 rentals
 // (101,301 lines with record 0), written by the export's own record writers.
 // The smaller sizes are its first lines.
 
 #include <benchmark/benchmark.h>
-#include <sqlite3.h>
 #include <stdlib.h>
 #include <sys/resource.h>
 
@@ -21,6 +20,7 @@
 #include "base/text.h"
 #include "cli/demo_data.h"
 #include "cli/import_file.h"
+#include "data/engine.h"
 #include "fileformat/export2014.h"
 #include "zerbal/databases.h"
 
@@ -192,68 +192,62 @@ BENCHMARK(BM_ImportFile)
 // The baseline: every row of the file inserted with prepared statements.
 class Raw {
  public:
-  explicit Raw(const fs::path& path) {
-    sqlite3_open_v2(path.c_str(), &db_, SQLITE_OPEN_READWRITE, nullptr);
-    sqlite3_exec(db_, "PRAGMA synchronous = NORMAL", nullptr, nullptr, nullptr);
-    declarant_ = Prepare("INSERT INTO TDeclarante (dni_cifd, nombred) VALUES (?, ?)");
-    declaration_ =
-        Prepare("INSERT INTO TDeclaraciones (coddecr, ejercicio, moneda) VALUES (?, 2014, 'E')");
-    operation_ = Prepare(
-        "INSERT INTO tOperadores (coddeclar, provo, paiso, nifo, razon, claveopo, importe, impmet, "
-        "impinm, claverep, opeseg, opearr, impopeT1, impopeT2, impopeT3, impopeT4, impmobT1, "
-        "impmobT2, impmobT3, impmobT4, ejerimpmet, siglaspaisintra, nifpaisintra, opeivacaja, "
-        "opeinvsujpas, operegposadu, impanudevopecaj) VALUES (?, 20, ' ', ?, ?, ?, ?, 0, 0, ' ', "
-        "' ', ' ', ?, ?, ?, ?, 0, 0, 0, 0, 0, ' ', ' ', ' ', ' ', ' ', 0)");
-    rental_ = Prepare(
-        "INSERT INTO tArrendamientos (coddeclar, provi, prova, paiso, nifa, razon, importe, "
-        "municipioa, refcat, viaa, domicilioa, numeroa, escaleraa, pisoa, puertaa) VALUES (?, 20, "
-        "20, ' ', ?, ?, ?, 'Donostia', '9872023VH5797S0001WX', 'CL', 'Easo', 21, ' ', ' ', ' ')");
-  }
-  ~Raw() {
-    for (sqlite3_stmt* s : {declarant_, declaration_, operation_, rental_}) sqlite3_finalize(s);
-    sqlite3_close(db_);
-  }
+  explicit Raw(const fs::path& path)
+      : connection_(data::EngineConnection::Open(path.string(), false)),
+        declarant_(Prepare("INSERT INTO TDeclarante (dni_cifd, nombred) VALUES (?, ?)")),
+        declaration_(Prepare(
+            "INSERT INTO TDeclaraciones (coddecr, ejercicio, moneda) VALUES (?, 2014, 'E')")),
+        operation_(Prepare(
+            "INSERT INTO tOperadores (coddeclar, provo, paiso, nifo, razon, claveopo, importe, "
+            "impmet, impinm, claverep, opeseg, opearr, impopeT1, impopeT2, impopeT3, impopeT4, "
+            "impmobT1, impmobT2, impmobT3, impmobT4, ejerimpmet, siglaspaisintra, nifpaisintra, "
+            "opeivacaja, opeinvsujpas, operegposadu, impanudevopecaj) VALUES (?, 20, ' ', ?, ?, "
+            "?, ?, 0, 0, ' ', ' ', ' ', ?, ?, ?, ?, 0, 0, 0, 0, 0, ' ', ' ', ' ', ' ', ' ', 0)")),
+        rental_(Prepare(
+            "INSERT INTO tArrendamientos (coddeclar, provi, prova, paiso, nifa, razon, importe, "
+            "municipioa, refcat, viaa, domicilioa, numeroa, escaleraa, pisoa, puertaa) VALUES "
+            "(?, 20, 20, ' ', ?, ?, ?, 'Donostia', '9872023VH5797S0001WX', 'CL', 'Easo', 21, "
+            "' ', ' ', ' ')")) {}
 
-  void Declarant(const struct Declarant& d) {
+  void Declarant(const Declarant& d) {
     Text(declarant_, 1, d.nif);
     Text(declarant_, 2, d.name);
     Step(declarant_);
-    sqlite3_bind_int64(declaration_, 1, sqlite3_last_insert_rowid(db_));
+    sqlite3_bind_int64(declaration_.get(), 1, sqlite3_last_insert_rowid(connection_->db()));
     Step(declaration_);
-    const int64_t declaration = sqlite3_last_insert_rowid(db_);
+    const int64_t declaration = sqlite3_last_insert_rowid(connection_->db());
     for (const Operation& op : d.operations) {
-      sqlite3_bind_int64(operation_, 1, declaration);
+      sqlite3_bind_int64(operation_.get(), 1, declaration);
       Text(operation_, 2, op.nif);
       Text(operation_, 3, op.name);
       Text(operation_, 4, op.key);
-      sqlite3_bind_double(operation_, 5, static_cast<double>(op.amount));
-      for (int q = 0; q < 4; ++q) sqlite3_bind_double(operation_, 6 + q, op.amount / 4);
+      sqlite3_bind_double(operation_.get(), 5, static_cast<double>(op.amount));
+      for (int q = 0; q < 4; ++q) {
+        sqlite3_bind_double(operation_.get(), 6 + q, static_cast<double>(op.amount / 4));
+      }
       Step(operation_);
     }
     for (const Rental& r : d.rentals) {
-      sqlite3_bind_int64(rental_, 1, declaration);
+      sqlite3_bind_int64(rental_.get(), 1, declaration);
       Text(rental_, 2, r.nif);
       Text(rental_, 3, r.name);
-      sqlite3_bind_double(rental_, 4, static_cast<double>(r.amount));
+      sqlite3_bind_double(rental_.get(), 4, static_cast<double>(r.amount));
       Step(rental_);
     }
   }
 
  private:
-  sqlite3_stmt* Prepare(const char* sql) {
-    sqlite3_stmt* s = nullptr;
-    if (sqlite3_prepare_v2(db_, sql, -1, &s, nullptr) != SQLITE_OK) std::abort();
-    return s;
+  data::Statement Prepare(const char* sql) { return data::PrepareOne(connection_->db(), sql); }
+  static void Text(data::Statement& s, int i, const std::string& text) {
+    sqlite3_bind_text(s.get(), i, text.c_str(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
   }
-  static void Text(sqlite3_stmt* s, int i, const std::string& text) {
-    sqlite3_bind_text(s, i, text.c_str(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+  static void Step(data::Statement& s) {
+    if (sqlite3_step(s.get()) != SQLITE_DONE) std::abort();
+    sqlite3_reset(s.get());
   }
-  static void Step(sqlite3_stmt* s) {
-    if (sqlite3_step(s) != SQLITE_DONE) std::abort();
-    sqlite3_reset(s);
-  }
-  sqlite3* db_ = nullptr;
-  sqlite3_stmt *declarant_, *declaration_, *operation_, *rental_;
+
+  std::shared_ptr<data::EngineConnection> connection_;
+  data::Statement declarant_, declaration_, operation_, rental_;
 };
 
 void BM_RawInsertBaseline(benchmark::State& state) {

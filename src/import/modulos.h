@@ -1,9 +1,9 @@
 // Which module serves which fiscal year: the one place that decides, for
 // the driver, the splitter and validator of an operation or rental line by
-// the declaration's year, and the converter of a line in the state agency's
-// layout by the line's own year. A module not yet built is absent
-// (nullptr), and the driver refuses its lines; adding one is adding its
-// entry here.
+// the declaration's year. A module not yet built is absent (nullptr), and
+// the driver refuses its lines; adding one is adding its entry here. (The
+// converter of a state-layout line is picked by the line's own year in
+// fileformat/conv_del_estatal.h.)
 
 #ifndef ZERBAL_IMPORT_MODULOS_H_
 #define ZERBAL_IMPORT_MODULOS_H_
@@ -30,12 +30,6 @@ struct Par {
 const Par* ParDeclarados(int32_t lngEjercicio);
 // Rentals: up to 2007, 2008 to 2013, 2014 on.
 const Par* ParArrendamientos(int32_t lngEjercicio);
-
-// The converter of a state-layout line into this system's layout; it
-// returns the converted line. Years up to 2007, 2008 to 2010, 2011 to 2013,
-// and 2014 on (with anything else).
-using Conversor = std::string (*)(std::string& strLinea, const std::string& strRuta);
-Conversor ConversorEstatal(int32_t lngEjercicio);
 
 }  // namespace zerbal::Importacion
 
