@@ -3,6 +3,7 @@
 
 #include "zerbal/impexp.h"
 
+#include "fileformat/linea_dte.h"
 #include "lineas.h"
 #include "zerbal/automation.h"
 #include "zerbal/declaraciones.h"
@@ -208,6 +209,25 @@ TEST_F(ImpExpTest, DeclarantsOfTheLatestYearByDefault) {
   EXPECT_EQ(currency, "E");
   ASSERT_EQ(list.AsArray().UBound(2), 1);
   EXPECT_EQ(list(1, 1), Variant("B20456786"));
+  imp_.mdbmod((dir_ / "none.db").string());
+  const std::optional<Error> error = test::ErrorOf([&] { imp_.ObtenerDeclarantes(year, currency); });
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->Description().rfind("cImpExp.ObtenerDeclarantes ", 0), 0u) << error->Description();
+}
+
+TEST_F(ImpExpTest, ALineOfTheDeclarantsFileStoresADeclarantOnce) {
+  const std::string line = fileformat::GenerarLineaDte(test::DeclaranteLinea("12345678Z"));
+  Variant valores, errores;
+  EXPECT_EQ(imp_.importDte(line, valores, errores), 0);
+  ASSERT_EQ(valores.AsArray().UBound(), 17);
+  EXPECT_EQ(valores(11), Variant("20005")) << "CP: the province's two digits and the last three";
+  EXPECT_EQ(imp_.importDte(line, valores, errores), 1) << "its NIF is known";
+  EXPECT_EQ(valores(0), Variant(test::Rows(mod_, "SELECT coddec FROM TDeclarante")[0][0].AsLong()));
+  EXPECT_EQ(imp_.importDte(line.substr(0, 60), valores, errores), 3);
+  EXPECT_EQ(test::ErrorList(errores), (Errors{{4, ""}, {6, ""}, {6, ""}, {7, ""}}))
+      << "an address cut after the street";
+  EXPECT_EQ(Count("TDeclarante"), 1);
+  EXPECT_EQ(Count("TDeclaraciones"), 0);
 }
 
 TEST_F(ImpExpTest, ByNameTheArgumentsComeBackAsTheMethodLeftThem) {
