@@ -158,6 +158,18 @@ double MaxRssMegabytes() {
   return usage.ru_maxrss / 1024.0;
 }
 
+// Both benchmarks at the same sizes of file, once each (a run is long).
+void Sizes(benchmark::internal::Benchmark* b) {
+  b->Arg(1000)->Arg(10000)->Arg(101301)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
+}
+
+void Rates(benchmark::State& state, int64_t lines) {
+  const auto n = static_cast<double>(lines);
+  state.counters["lines/s"] = benchmark::Counter(n, benchmark::Counter::kIsRate);
+  state.counters["us/line"] =
+      benchmark::Counter(n, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
 void BM_ImportFile(benchmark::State& state) {
   const fs::path file = Prefix(state.range(0));
   int64_t lines = 0;
@@ -174,20 +186,10 @@ void BM_ImportFile(benchmark::State& state) {
     if (s.refused != 0) state.SkipWithError("lines were refused");
     lines += s.lines;
   }
-  state.counters["lines/s"] =
-      benchmark::Counter(static_cast<double>(lines), benchmark::Counter::kIsRate);
-  state.counters["us/line"] = benchmark::Counter(static_cast<double>(lines),
-                                                 benchmark::Counter::kIsRate |
-                                                     benchmark::Counter::kInvert);
+  Rates(state, lines);
   state.counters["maxrss_MB"] = MaxRssMegabytes();
 }
-BENCHMARK(BM_ImportFile)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(101301)
-    ->Iterations(1)
-    ->Unit(benchmark::kSecond)
-    ->UseRealTime();
+BENCHMARK(BM_ImportFile)->Apply(Sizes);
 
 // The baseline: every row of the file inserted with prepared statements.
 class Raw {
@@ -268,18 +270,9 @@ void BM_RawInsertBaseline(benchmark::State& state) {
     for (const Declarant& d : Shared().data) left -= raw.Declarant(d, left);
     lines += state.range(0);
   }
-  state.counters["lines/s"] = benchmark::Counter(static_cast<double>(lines),
-                                                 benchmark::Counter::kIsRate);
-  state.counters["us/line"] = benchmark::Counter(
-      static_cast<double>(lines), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+  Rates(state, lines);
 }
-BENCHMARK(BM_RawInsertBaseline)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Arg(101301)
-    ->Iterations(1)
-    ->Unit(benchmark::kSecond)
-    ->UseRealTime();
+BENCHMARK(BM_RawInsertBaseline)->Apply(Sizes);
 
 }  // namespace
 }  // namespace zerbal::cli
