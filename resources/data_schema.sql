@@ -67,7 +67,8 @@ CREATE TABLE tOperadores (
   operegposadu    TEXT COLLATE NOCASE CONSTRAINT size_operegposadu    CHECK (length(operegposadu) <= 1),
   impanudevopecaj REAL
 ) STRICT;
-CREATE INDEX tOperadores_coddeclar ON tOperadores (coddeclar);
+-- With the identifier: the check for a repeated operation looks for both.
+CREATE INDEX tOperadores_coddeclar ON tOperadores (coddeclar, nifo);
 
 CREATE TABLE tArrendamientos (
   codarr      INTEGER PRIMARY KEY AUTOINCREMENT,

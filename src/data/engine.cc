@@ -120,7 +120,7 @@ std::shared_ptr<EngineConnection> EngineConnection::Open(const std::string& path
   // index beside the file: the file is read as it stands. Nobody writes it
   // meanwhile through this folder, and any change is seen by the file's
   // identity and opened afresh.
-  const bool folder_read_only = FolderReadOnly(path, id);
+  const bool folder_read_only = FolderReadOnly(path);
   const bool only_read = read_only || folder_read_only || FileReadOnly(path, id);
   const std::string name = folder_read_only ? ImmutableUri(path) : path;
   int flags = (only_read ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX |
@@ -131,6 +131,7 @@ std::shared_ptr<EngineConnection> EngineConnection::Open(const std::string& path
   DbHandle handle(raw);
   if (rc != SQLITE_OK) RaiseEngineError(rc, raw);
   std::shared_ptr<EngineConnection> conn(new EngineConnection(std::move(handle), path, id));
+  conn->folder_read_only_ = folder_read_only;
   conn->Configure(header.write_ahead_log, only_read);
   return conn;
 }
@@ -182,6 +183,9 @@ void EngineConnection::TablesChanged() {
 
 bool EngineConnection::IsCurrent() const {
   try {
+    // A file read as it stands, in a folder that can be written again, is
+    // opened again to be written.
+    if (folder_read_only_ && !FolderReadOnly(path_)) return false;
     return InspectFile(path_) == identity_;
   } catch (const Error&) {
     return false;

@@ -96,6 +96,7 @@ class EngineConnection {
   DbHandle handle_;
   std::string path_;
   FileIdentity identity_;
+  bool folder_read_only_ = false;  // opened as a file nobody changes
   IndexedTextColumns indexed_;
   StatementCache statements_;  // finalized before the handle closes
   InsertedKey inserted_key_;

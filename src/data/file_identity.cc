@@ -51,7 +51,6 @@ FileIdentity InspectFile(const std::string& path) {
   id.modified_ns = Nanoseconds(st.st_mtim);
   id.changed_ns = Nanoseconds(st.st_ctim);
   id.mode = st.st_mode;
-  if (::stat(FolderOf(path).c_str(), &st) == 0) id.folder_mode = st.st_mode;
   return id;
 }
 
@@ -59,8 +58,11 @@ bool FileReadOnly(const std::string& path, const FileIdentity& identity) {
   return NoWriteBits(identity.mode) || ::access(path.c_str(), W_OK) != 0;
 }
 
-bool FolderReadOnly(const std::string& path, const FileIdentity& identity) {
-  return NoWriteBits(identity.folder_mode) || ::access(FolderOf(path).c_str(), W_OK) != 0;
+bool FolderReadOnly(const std::string& path) {
+  const std::string folder = FolderOf(path);
+  struct stat st {};
+  return ::stat(folder.c_str(), &st) != 0 || NoWriteBits(st.st_mode) ||
+         ::access(folder.c_str(), W_OK) != 0;
 }
 
 FileHeader ReadOwnHeader(const std::string& path, int32_t application_id) {

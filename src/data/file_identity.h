@@ -18,11 +18,10 @@ struct FileIdentity {
   int64_t modified_ns = 0;
   int64_t changed_ns = 0;  // any write, copy, rename or chmod onto the file moves it
   uint32_t mode = 0;
-  uint32_t folder_mode = 0;  // 0 when the folder cannot be looked at
   bool operator==(const FileIdentity&) const = default;
 };
 
-// The identity of the file at `path` and the permissions of its folder. A missing file is 3024, a
+// The identity of the file at `path` (one stat). A missing file is 3024, a
 // missing folder or an empty path 3044, anything but a regular file 3051.
 FileIdentity InspectFile(const std::string& path);
 
@@ -30,8 +29,9 @@ FileIdentity InspectFile(const std::string& path);
 bool FileReadOnly(const std::string& path, const FileIdentity& identity);
 
 // Whether nothing may be written in the folder of `path` (where the engine
-// keeps its log and index beside the database).
-bool FolderReadOnly(const std::string& path, const FileIdentity& identity);
+// keeps its log and index beside the database). Looked at when a file is
+// opened: the files beside a database that is open stay writable.
+bool FolderReadOnly(const std::string& path);
 
 // The first bytes of a database file, as far as the layer reads them.
 struct FileHeader {
