@@ -6,6 +6,7 @@
 #include <cstring>
 #include <fstream>
 #include <sstream>
+#include <string>
 #include <vector>
 
 #include "base/convert.h"
@@ -68,16 +69,60 @@ void Check(const std::string& record, int32_t row, size_t length, const std::str
   }
 }
 
-// The records 2 or 3 of one declarant, rows 1 to n of `records`.
-void Append(std::vector<std::string>& lines, const Variant& records, size_t length,
-            const std::string& what, const fileformat::MisfitWatch& watch) {
-  if (records.IsEmpty()) return;
-  const Array& a = records.AsArray();
-  for (int32_t i = 1; i <= a.UBound(); ++i) {
-    Check(a(i).AsString(), i - 1, length, what + ", row " + std::to_string(i), watch);
-    lines.push_back(a(i).AsString());
+// Characters of `utf8` that Windows-1252 has no place for.
+int32_t Unrepresentable(const std::string& utf8) {
+  int32_t count = 0;
+  for (size_t pos = 0; pos < utf8.size();) {
+    if (static_cast<unsigned char>(utf8[pos]) < 0x80) {
+      ++pos;
+      continue;
+    }
+    size_t size = 1;
+    const char32_t c = DecodeAt(utf8, pos, &size);
+    count += (c != U'?' && Windows1252Code(c) == '?');
+    pos += size;
   }
+  return count;
 }
+
+// The lines of the file as they are built, each in the file's code page.
+class Lines {
+ public:
+  Lines(Replacement& out, const ExportOptions& o, ExportSummary& summary)
+      : out_(out), o_(o), summary_(summary) {}
+
+  void Add(const std::string& record) {
+    const std::string line = Encoded(record);
+    buffer_ += line;
+    if (buffer_.size() >= kBuffered) Flush();
+    ++summary_.records;
+  }
+  // The records 2 or 3 of one declarant, rows 1 to n of `records`.
+  void AddRows(const Variant& records, size_t length, const std::string& what,
+               const fileformat::MisfitWatch& watch) {
+    if (records.IsEmpty()) return;
+    const Array& a = records.AsArray();
+    for (int32_t i = 1; i <= a.UBound(); ++i) {
+      Check(a(i).AsString(), i - 1, length, what + ", row " + std::to_string(i), watch);
+      Add(a(i).AsString());
+    }
+  }
+  void Flush() {
+    out_.Write(buffer_);
+    buffer_.clear();
+  }
+  std::string Encoded(const std::string& record) {
+    if (!o_.utf8) summary_.replaced_chars += Unrepresentable(record);
+    return (o_.utf8 ? record : Utf8ToWindows1252(record)) + "\r\n";
+  }
+
+ private:
+  static constexpr size_t kBuffered = 1 << 16;
+  Replacement& out_;
+  const ExportOptions& o_;
+  ExportSummary& summary_;
+  std::string buffer_;
+};
 
 Variant Presenter(const ExportOptions& o) {
   cPresentador presentador;
@@ -88,29 +133,6 @@ Variant Presenter(const ExportOptions& o) {
     throw ExportFailure("there is no presenter in " + o.data.string() + ": save one first");
   }
   return buffer;
-}
-
-// Characters of `utf8` that Windows-1252 has no place for.
-int32_t Unrepresentable(const std::string& utf8) {
-  int32_t count = 0;
-  for (size_t pos = 0; pos < utf8.size();) {
-    size_t size = 1;
-    const char32_t c = DecodeAt(utf8, pos, &size);
-    count += (c != U'?' && Windows1252Code(c) == '?');
-    pos += size;
-  }
-  return count;
-}
-
-std::string FileText(const std::vector<std::string>& lines, const ExportOptions& o,
-                     ExportSummary& summary) {
-  std::string text;
-  for (const std::string& line : lines) {
-    if (!o.utf8) summary.replaced_chars += Unrepresentable(line);
-    text += o.utf8 ? line : Utf8ToWindows1252(line);
-    text += "\r\n";
-  }
-  return text;
 }
 
 // The declarants file as ExportarDtes writes it, made in a new folder of our
@@ -162,12 +184,28 @@ ExportSummary ExportYear(const ExportOptions& o) {
   exportacion.Ejercicio(o.year);
   exportacion.Moneda(o.currency);
   exportacion.NoTotalDeclArren(0);
-
-  std::vector<std::string> lines(1);  // record 0 goes first, once the counts are known
   const int32_t n = codes.AsArray().UBound() + 1;
   if (n > INT16_MAX) {  // the driver numbers declarants with 16 bits
     throw ExportFailure(std::to_string(n) + " declarants: at most 32767 fit in one file");
   }
+  auto reg0 = [&] {
+    fileformat::MisfitWatch watch;
+    std::string record = exportacion.ExportarReg0(presenter, n, exportacion.NoTotalDeclArren(), o.year);
+    Check(record, 0, length, "record 0 (the presenter)", watch);
+    return record;
+  };
+
+  // Records are written as they are built. Record 0 goes first but carries
+  // the count of the others: its place is kept and it is written over it at
+  // the end (the counts are digits, so its length does not change).
+  ExportSummary summary;
+  summary.declarants = n;
+  summary.file = o.out;
+  Replacement out(o.out, databases);
+  Lines lines(out, o, summary);
+  const std::string placeholder = lines.Encoded(reg0());
+  summary.replaced_chars = 0;
+  lines.Add(std::string(placeholder.size() - 2, ' '));
   for (int16_t i = 0; i < n; ++i) {
     if (o.progress) *o.progress << "\rExporting declarant " << i + 1 << " of " << n << std::flush;
     const std::string who = " of declarant " + declarants.nifs[i];
@@ -175,30 +213,24 @@ ExportSummary ExportYear(const ExportOptions& o) {
       fileformat::MisfitWatch watch;
       const std::string reg1 = exportacion.ExportarReg1(codes, i);
       Check(reg1, 0, length, "record 1" + who, watch);
-      lines.push_back(reg1);
+      lines.Add(reg1);
     }
     {
       fileformat::MisfitWatch watch;
-      Append(lines, exportacion.ExportarReg2(codes, i), length, "record 2" + who, watch);
+      lines.AddRows(exportacion.ExportarReg2(codes, i), length, "record 2" + who, watch);
     }
     fileformat::MisfitWatch watch;
-    Append(lines, exportacion.ExportarReg3(codes, i), length, "record 3" + who, watch);
+    lines.AddRows(exportacion.ExportarReg3(codes, i), length, "record 3" + who, watch);
   }
   if (o.progress) *o.progress << "\r" << std::string(40, ' ') << "\r" << std::flush;
-  {
-    fileformat::MisfitWatch watch;
-    lines[0] = exportacion.ExportarReg0(presenter, n, exportacion.NoTotalDeclArren(), o.year);
-    Check(lines[0], 0, length, "record 0 (the presenter)", watch);
-  }
+  lines.Flush();
+  const std::string first = lines.Encoded(reg0());
+  if (first.size() != placeholder.size()) throw ExportFailure("record 0 changed its length");
+  out.WriteAt(0, first);
 
-  ExportSummary summary;
-  summary.declarants = n;
-  summary.records = static_cast<int32_t>(lines.size());
-  summary.file = o.out;
-  const std::string text = FileText(lines, o, summary);
   const std::string declarants_text =
       o.declarants ? DeclarantsFileText(exportacion, codes) : std::string();
-  ReplaceFile(o.out, text, databases);
+  out.Commit();
   if (o.declarants) ReplaceFile(*o.declarants, declarants_text, kept_from_declarants);
   return summary;
 }

@@ -30,9 +30,11 @@ const char* KindOf(mode_t mode) {
   return "not a regular file";
 }
 
+}  // namespace
+
 // A new file beside the target, removed when this ends unless it was
 // renamed into place.
-class TempFile {
+class Replacement::TempFile {
  public:
   TempFile(const fs::path& folder, const fs::path& target) : target_(target) {
     std::random_device entropy;
@@ -62,6 +64,15 @@ class TempFile {
       content.remove_prefix(static_cast<size_t>(n));
     }
   }
+  void WriteAt(uint64_t offset, std::string_view content) {
+    while (!content.empty()) {
+      const ssize_t n = ::pwrite(fd_, content.data(), content.size(), static_cast<off_t>(offset));
+      if (n < 0 && errno == EINTR) continue;
+      if (n < 0) CannotWrite(target_, errno);
+      content.remove_prefix(static_cast<size_t>(n));
+      offset += static_cast<uint64_t>(n);
+    }
+  }
   void Chmod(mode_t mode) {
     if (::fchmod(fd_, mode) != 0) CannotWrite(target_, errno);
   }
@@ -82,6 +93,8 @@ class TempFile {
   int fd_ = -1;
   bool renamed_ = false;
 };
+
+namespace {
 
 // A rename is durable only once the folder that holds both names is.
 void FlushFolder(const fs::path& folder, const fs::path& target) {
@@ -130,20 +143,38 @@ void CheckTarget(const fs::path& target, const std::vector<KeptFile>& kept) {
   }
 }
 
+Replacement::Replacement(const fs::path& target, std::vector<KeptFile> kept)
+    : target_(target),
+      folder_(target.has_parent_path() ? target.parent_path() : fs::path(".")),
+      kept_(std::move(kept)) {
+  CheckTarget(target_, kept_);
+  struct stat old;
+  const bool replacing = ::lstat(target_.c_str(), &old) == 0;
+  temp_ = std::make_unique<TempFile>(folder_, target_);
+  if (replacing) temp_->Chmod(old.st_mode & 07777);
+}
+
+Replacement::~Replacement() = default;
+
+void Replacement::Write(std::string_view content) { temp_->Write(content); }
+
+void Replacement::WriteAt(uint64_t offset, std::string_view content) {
+  temp_->WriteAt(offset, content);
+}
+
+void Replacement::Commit() {
+  temp_->FlushAndClose();
+  FlushFolder(folder_, target_);
+  CheckTarget(target_, kept_);  // whatever came under the name meanwhile
+  temp_->RenameOverTarget();
+  FlushFolder(folder_, target_);
+}
+
 void ReplaceFile(const fs::path& target, std::string_view content,
                  const std::vector<KeptFile>& kept) {
-  CheckTarget(target, kept);
-  const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
-  struct stat old;
-  const bool replacing = ::lstat(target.c_str(), &old) == 0;
-  TempFile temp(folder, target);
-  if (replacing) temp.Chmod(old.st_mode & 07777);
-  temp.Write(content);
-  temp.FlushAndClose();
-  FlushFolder(folder, target);
-  CheckTarget(target, kept);  // whatever came under the name meanwhile
-  temp.RenameOverTarget();
-  FlushFolder(folder, target);
+  Replacement replacement(target, kept);
+  replacement.Write(content);
+  replacement.Commit();
 }
 
 }  // namespace zerbal::cli

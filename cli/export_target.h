@@ -12,7 +12,9 @@
 #ifndef ZERBAL_CLI_EXPORT_TARGET_H_
 #define ZERBAL_CLI_EXPORT_TARGET_H_
 
+#include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,8 +37,32 @@ std::vector<KeptFile> DatabaseFiles(const std::filesystem::path& data);
 // the same file is refused as well.
 void CheckTarget(const std::filesystem::path& target, const std::vector<KeptFile>& kept);
 
-// Replaces `target` with `content` as described above, checking it first
-// with CheckTarget. Raises ExportFailure.
+// The new content of `target`, written in pieces as described above and put
+// in its place by Commit. Checks `target` with CheckTarget when made and
+// again before the rename. Destroyed without Commit, it leaves nothing.
+// Raises ExportFailure.
+class Replacement {
+ public:
+  Replacement(const std::filesystem::path& target, std::vector<KeptFile> kept);
+  ~Replacement();
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+
+  // Appends to what was written.
+  void Write(std::string_view content);
+  // Writes over bytes written before, from byte `offset` on.
+  void WriteAt(uint64_t offset, std::string_view content);
+  void Commit();
+
+ private:
+  class TempFile;
+  std::filesystem::path target_;
+  std::filesystem::path folder_;
+  std::vector<KeptFile> kept_;
+  std::unique_ptr<TempFile> temp_;
+};
+
+// Replaces `target` with `content` through a Replacement.
 void ReplaceFile(const std::filesystem::path& target, std::string_view content,
                  const std::vector<KeptFile>& kept);
 

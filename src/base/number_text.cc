@@ -159,8 +159,25 @@ void RoundedDigits(double magnitude, int decimals, std::string* whole, std::stri
   if (*whole == "0") whole->clear();  // a zero integer part has no significant digit
 }
 
+// The common mask of the files' numbers, "000...0", for a whole value:
+// its digits, zero-filled to the mask's width (more digits if it has them).
+bool ZeroFilled(double value, std::string_view mask, std::string* out) {
+  if (mask.find_first_not_of('0') != std::string_view::npos) return false;
+  const double scaled = std::round(std::fabs(value));
+  if (!(scaled < 1e15)) return false;
+  char buf[24];
+  const auto r = std::to_chars(buf, buf + sizeof buf, static_cast<int64_t>(scaled));
+  const size_t digits = static_cast<size_t>(r.ptr - buf);
+  const bool sign = value < 0 && scaled != 0;
+  out->assign(sign ? 1 : 0, '-');
+  if (digits < mask.size()) out->append(mask.size() - digits, '0');
+  out->append(buf, digits);
+  return true;
+}
+
 std::string FormatNumber(double value, std::string_view mask) {
   if (mask.empty()) return NumberText(value);  // no mask: the general number form
+  if (std::string fast; ZeroFilled(value, mask, &fast)) return fast;
   const size_t point = mask.find('.');
   const std::string_view int_mask = mask.substr(0, point);
   const std::string_view frac_mask =

@@ -10,13 +10,17 @@ constexpr char32_t kReplacement = 0xFFFD;
 bool IsContinuation(unsigned char b) { return (b & 0xC0) == 0x80; }
 
 // Byte offset of character `index` (0-based), or text.size() past the end.
+// Byte length of the character at `pos`: 1 for ASCII without decoding.
+size_t CharSize(std::string_view text, size_t pos) {
+  if (static_cast<unsigned char>(text[pos]) < 0x80) return 1;
+  size_t size = 1;
+  DecodeAt(text, pos, &size);
+  return size;
+}
+
 size_t ByteOffset(std::string_view text, int64_t index) {
   size_t pos = 0;
-  for (int64_t k = 0; k < index && pos < text.size(); ++k) {
-    size_t size = 1;
-    DecodeAt(text, pos, &size);
-    pos += size;
-  }
+  for (int64_t k = 0; k < index && pos < text.size(); ++k) pos += CharSize(text, pos);
   return pos;
 }
 
@@ -77,11 +81,7 @@ void AppendUtf8(std::string* out, char32_t c) {
 
 int64_t Len(std::string_view text) {
   int64_t n = 0;
-  for (size_t pos = 0; pos < text.size(); ++n) {
-    size_t size = 1;
-    DecodeAt(text, pos, &size);
-    pos += size;
-  }
+  for (size_t pos = 0; pos < text.size(); ++n) pos += CharSize(text, pos);
   return n;
 }
 
@@ -120,9 +120,11 @@ int64_t InStr(std::string_view text, std::string_view what, int64_t start) {
 std::string FirstChar(std::string_view text) { return Left(text, 1); }
 
 std::string RepeatChar(std::string_view fill, int64_t count) {
-  const std::string one = FirstChar(fill);
+  if (count <= 0 || fill.empty()) return {};
+  const size_t first = CharSize(fill, 0);
+  if (first == 1) return std::string(static_cast<size_t>(count), fill[0]);
+  const std::string one(fill.substr(0, first));
   std::string out;
-  if (one.empty() || count <= 0) return out;
   out.reserve(one.size() * static_cast<size_t>(count));
   for (int64_t k = 0; k < count; ++k) out += one;
   return out;
@@ -183,6 +185,10 @@ std::string Utf8ToWindows1252(std::string_view utf8) {
   std::string out;
   out.reserve(utf8.size());
   for (size_t pos = 0; pos < utf8.size();) {
+    if (static_cast<unsigned char>(utf8[pos]) < 0x80) {
+      out.push_back(utf8[pos++]);
+      continue;
+    }
     size_t size = 1;
     out.push_back(static_cast<char>(Windows1252Code(DecodeAt(utf8, pos, &size))));
     pos += size;
