@@ -6,6 +6,10 @@
 -- case, Counter a key numbered by the engine and never reused. Each size or
 -- range check is named size_<column> or range_<column>: the database layer
 -- reports them as "field too small" and "numeric field overflow".
+--
+-- The columns that the upgrade of an earlier year's database adds stand
+-- where it puts them and carry the defaults and required flags it gives
+-- them, so that an upgraded database and a new one are alike.
 
 CREATE TABLE TDeclarante (
   coddec      INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -41,31 +45,31 @@ CREATE TABLE tOperadores (
   codope          INTEGER PRIMARY KEY AUTOINCREMENT,
   coddeclar       INTEGER CONSTRAINT range_coddeclar  CHECK (coddeclar BETWEEN -2147483648 AND 2147483647),
   provo           INTEGER CONSTRAINT range_provo      CHECK (provo BETWEEN -2147483648 AND 2147483647),
-  paiso           TEXT COLLATE NOCASE CONSTRAINT size_paiso    CHECK (length(paiso) <= 3),
+  paiso           TEXT DEFAULT '' COLLATE NOCASE CONSTRAINT size_paiso CHECK (length(paiso) <= 3),
   nifo            TEXT COLLATE NOCASE CONSTRAINT size_nifo     CHECK (length(nifo) <= 20),
   razon           TEXT COLLATE NOCASE CONSTRAINT size_razon    CHECK (length(razon) <= 100),
   claveopo        TEXT COLLATE NOCASE CONSTRAINT size_claveopo CHECK (length(claveopo) <= 1),
   importe         REAL,
-  impmet          REAL,
-  impinm          REAL,
+  impmet          REAL DEFAULT 0,
+  impinm          REAL DEFAULT 0,
   claverep        TEXT COLLATE NOCASE CONSTRAINT size_claverep CHECK (length(claverep) <= 1),
   opeseg          TEXT COLLATE NOCASE CONSTRAINT size_opeseg   CHECK (length(opeseg) <= 1),
   opearr          TEXT COLLATE NOCASE CONSTRAINT size_opearr   CHECK (length(opearr) <= 1),
-  impopeT1        REAL,
-  impopeT2        REAL,
-  impopeT3        REAL,
-  impopeT4        REAL,
-  impmobT1        REAL,
-  impmobT2        REAL,
-  impmobT3        REAL,
-  impmobT4        REAL,
-  ejerimpmet      INTEGER CONSTRAINT range_ejerimpmet CHECK (ejerimpmet BETWEEN -2147483648 AND 2147483647),
-  siglaspaisintra TEXT COLLATE NOCASE CONSTRAINT size_siglaspaisintra CHECK (length(siglaspaisintra) <= 2),
-  nifpaisintra    TEXT COLLATE NOCASE CONSTRAINT size_nifpaisintra    CHECK (length(nifpaisintra) <= 15),
-  opeivacaja      TEXT COLLATE NOCASE CONSTRAINT size_opeivacaja      CHECK (length(opeivacaja) <= 1),
-  opeinvsujpas    TEXT COLLATE NOCASE CONSTRAINT size_opeinvsujpas    CHECK (length(opeinvsujpas) <= 1),
-  operegposadu    TEXT COLLATE NOCASE CONSTRAINT size_operegposadu    CHECK (length(operegposadu) <= 1),
-  impanudevopecaj REAL
+  ejerimpmet      INTEGER DEFAULT 0 CONSTRAINT range_ejerimpmet CHECK (ejerimpmet BETWEEN -2147483648 AND 2147483647),
+  impopeT1        REAL DEFAULT 0,
+  impopeT2        REAL DEFAULT 0,
+  impopeT3        REAL DEFAULT 0,
+  impopeT4        REAL DEFAULT 0,
+  impmobT1        REAL DEFAULT 0,
+  impmobT2        REAL DEFAULT 0,
+  impmobT3        REAL DEFAULT 0,
+  impmobT4        REAL DEFAULT 0,
+  siglaspaisintra TEXT NOT NULL DEFAULT '' COLLATE NOCASE CONSTRAINT size_siglaspaisintra CHECK (length(siglaspaisintra) <= 2),
+  nifpaisintra    TEXT NOT NULL DEFAULT '' COLLATE NOCASE CONSTRAINT size_nifpaisintra    CHECK (length(nifpaisintra) <= 15),
+  opeivacaja      TEXT NOT NULL DEFAULT '' COLLATE NOCASE CONSTRAINT size_opeivacaja      CHECK (length(opeivacaja) <= 1),
+  opeinvsujpas    TEXT NOT NULL DEFAULT '' COLLATE NOCASE CONSTRAINT size_opeinvsujpas    CHECK (length(opeinvsujpas) <= 1),
+  operegposadu    TEXT NOT NULL DEFAULT '' COLLATE NOCASE CONSTRAINT size_operegposadu    CHECK (length(operegposadu) <= 1),
+  impanudevopecaj REAL DEFAULT 0
 ) STRICT;
 -- With the identifier: the check for a repeated operation looks for both.
 CREATE INDEX tOperadores_coddeclar ON tOperadores (coddeclar, nifo);
@@ -73,9 +77,9 @@ CREATE INDEX tOperadores_coddeclar ON tOperadores (coddeclar, nifo);
 CREATE TABLE tArrendamientos (
   codarr      INTEGER PRIMARY KEY AUTOINCREMENT,
   coddeclar   INTEGER CONSTRAINT range_coddeclar CHECK (coddeclar BETWEEN -2147483648 AND 2147483647),
-  provi       INTEGER CONSTRAINT range_provi     CHECK (provi BETWEEN -2147483648 AND 2147483647),
   prova       INTEGER CONSTRAINT range_prova     CHECK (prova BETWEEN -2147483648 AND 2147483647),
-  paiso       TEXT COLLATE NOCASE CONSTRAINT size_paiso      CHECK (length(paiso) <= 3),
+  provi       INTEGER NOT NULL DEFAULT 0 CONSTRAINT range_provi CHECK (provi BETWEEN -2147483648 AND 2147483647),
+  paiso       TEXT DEFAULT '' COLLATE NOCASE CONSTRAINT size_paiso CHECK (length(paiso) <= 3),
   nifa        TEXT COLLATE NOCASE CONSTRAINT size_nifa       CHECK (length(nifa) <= 20),
   razon       TEXT COLLATE NOCASE CONSTRAINT size_razon      CHECK (length(razon) <= 100),
   importe     REAL,

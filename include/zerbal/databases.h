@@ -16,9 +16,18 @@ namespace zerbal {
 inline constexpr std::string_view kDataFileName = "347mod.db";
 inline constexpr std::string_view kLookupFileName = "347lec.db";
 
+// Which data database to make: the current one, or the one that the
+// program of an earlier year left, for trying the upgrade (cTraspaso). 2007
+// lacks every column that the upgrade adds and holds the country code paiso
+// as a 16-bit number; 2008 has the cash and real-estate amounts and the
+// rentals' province; 2011 has the quarterly amounts as well.
+inline constexpr int kCurrentSchema = 0;
+
 // Each raises 58 when a file is already at `path`, unless `replace` is true;
-// 76 when the folder of `path` does not exist.
-void CreateDataDatabase(const std::filesystem::path& path, bool replace = false);
+// 76 when the folder of `path` does not exist; 5 for a schema that is
+// neither kCurrentSchema nor one of those years.
+void CreateDataDatabase(const std::filesystem::path& path, bool replace = false,
+                        int schema = kCurrentSchema);
 void CreateLookupDatabase(const std::filesystem::path& path, bool replace = false);
 
 struct DatabasePaths {
@@ -28,7 +37,8 @@ struct DatabasePaths {
 
 // Creates both files in `folder`, creating the folder when missing. Without
 // `replace`, refuses (58) when either file exists, before creating any.
-DatabasePaths CreateDatabases(const std::filesystem::path& folder, bool replace = false);
+DatabasePaths CreateDatabases(const std::filesystem::path& folder, bool replace = false,
+                              int schema = kCurrentSchema);
 
 }  // namespace zerbal
 

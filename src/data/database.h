@@ -42,6 +42,14 @@ class Database {
 
   const std::string& Name() const { return name_; }
 
+  // The engine connection behind it, for the table definitions and
+  // transactions of data/table_defs.h and data/transaction.h; raises 3420
+  // once closed.
+  std::shared_ptr<EngineConnection> Engine() const {
+    Connection();
+    return connection_;
+  }
+
  private:
   friend class Workspace;
   Database(std::shared_ptr<EngineConnection> connection, std::string name);

@@ -21,6 +21,23 @@ const std::vector<std::string_view> kLookupScripts = {
     "lookup_schema.sql",    "lookup_operaciones.sql", "lookup_provincias.sql",
     "lookup_siglas_via.sql", "lookup_paises.sql",      "lookup_general.sql"};
 
+// An earlier year's data database is the current one with that year's
+// tables put in place of the current ones.
+struct EarlierSchema {
+  int year;
+  std::string_view script;
+};
+constexpr EarlierSchema kEarlierSchemas[] = {
+    {2007, "data_schema_2007.sql"}, {2008, "data_schema_2008.sql"}, {2011, "data_schema_2011.sql"}};
+
+std::vector<std::string_view> DataScripts(int schema) {
+  if (schema == kCurrentSchema) return kDataScripts;
+  for (const EarlierSchema& earlier : kEarlierSchemas) {
+    if (earlier.year == schema) return {kDataScripts[0], earlier.script};
+  }
+  Raise(errc::kInvalidProcedureCall, "no data database of " + std::to_string(schema));
+}
+
 fs::path WithSuffix(const fs::path& path, std::string_view suffix) {
   return fs::path(path.string() + std::string(suffix));
 }
@@ -81,22 +98,23 @@ void Create(const fs::path& path, bool replace, const std::vector<std::string_vi
 
 }  // namespace
 
-void CreateDataDatabase(const fs::path& path, bool replace) {
-  Create(path, replace, kDataScripts);
+void CreateDataDatabase(const fs::path& path, bool replace, int schema) {
+  Create(path, replace, DataScripts(schema));
 }
 
 void CreateLookupDatabase(const fs::path& path, bool replace) {
   Create(path, replace, kLookupScripts);
 }
 
-DatabasePaths CreateDatabases(const fs::path& folder, bool replace) {
+DatabasePaths CreateDatabases(const fs::path& folder, bool replace, int schema) {
+  const std::vector<std::string_view> data_scripts = DataScripts(schema);
   DatabasePaths paths{folder / kDataFileName, folder / kLookupFileName};
   std::error_code ec;
   fs::create_directories(folder, ec);
   if (ec) Raise(errc::kPathNotFound, folder.string() + ": " + ec.message());
   CheckTarget(paths.data, replace);
   CheckTarget(paths.lookup, replace);
-  CreateDataDatabase(paths.data, replace);
+  Create(paths.data, replace, data_scripts);
   CreateLookupDatabase(paths.lookup, replace);
   return paths;
 }

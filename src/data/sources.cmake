@@ -4,6 +4,7 @@ list(APPEND ZERBAL_SOURCES
   data/conexion_dao.cc
   data/conexion_dao_binding.cc
   data/database.cc
+  data/data_schema.cc
   data/databases.cc
   data/dialect.cc
   data/inserted_key.cc
@@ -11,6 +12,7 @@ list(APPEND ZERBAL_SOURCES
   data/sql_shape.cc
   data/statement_cache.cc
   data/engine.cc
+  data/field_def.cc
   data/collation.cc
   data/file_identity.cc
   data/like_pattern.cc
@@ -18,10 +20,16 @@ list(APPEND ZERBAL_SOURCES
   data/recordset.cc
   data/recordset_binding.cc
   data/sqlite.cc
+  data/table_defs.cc
+  data/table_schema.cc
+  data/transaction.cc
 )
 # The SQL that creates and fills the databases, embedded in the library.
 list(APPEND ZERBAL_RESOURCES
   data_schema.sql=${PROJECT_SOURCE_DIR}/resources/data_schema.sql
+  data_schema_2007.sql=${PROJECT_SOURCE_DIR}/resources/data_schema_2007.sql
+  data_schema_2008.sql=${PROJECT_SOURCE_DIR}/resources/data_schema_2008.sql
+  data_schema_2011.sql=${PROJECT_SOURCE_DIR}/resources/data_schema_2011.sql
   lookup_schema.sql=${PROJECT_SOURCE_DIR}/resources/lookup_schema.sql
   lookup_operaciones.sql=${PROJECT_SOURCE_DIR}/resources/lookup_operaciones.sql
   lookup_provincias.sql=${PROJECT_SOURCE_DIR}/resources/lookup_provincias.sql

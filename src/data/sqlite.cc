@@ -15,6 +15,7 @@ int ConstraintNumber(int rc, std::string_view message) {
     case SQLITE_CONSTRAINT_CHECK:
       if (message.find("size_") != std::string_view::npos) return errc::kFieldTooSmall;
       if (message.find("range_") != std::string_view::npos) return errc::kNumericOverflow;
+      if (message.find("zero_") != std::string_view::npos) return errc::kZeroLengthString;
       return errc::kDataTypeMismatch;
     case SQLITE_CONSTRAINT_DATATYPE: return errc::kDataTypeMismatch;
     case SQLITE_CONSTRAINT_NOTNULL: return errc::kNullNotAllowed;

@@ -51,17 +51,17 @@ TEST(DatabasesTest, TheDataDatabaseHasEveryTableAndColumn) {
   for (const char* text : {"paiso", "nifo", "razon", "claveopo"}) operations.emplace_back(text, "TEXT");
   for (const char* real : {"importe", "impmet", "impinm"}) operations.emplace_back(real, "REAL");
   for (const char* text : {"claverep", "opeseg", "opearr"}) operations.emplace_back(text, "TEXT");
+  operations.emplace_back("ejerimpmet", "INTEGER");
   for (const char* real : {"impopeT1", "impopeT2", "impopeT3", "impopeT4", "impmobT1", "impmobT2",
                            "impmobT3", "impmobT4"}) {
     operations.emplace_back(real, "REAL");
   }
-  operations.emplace_back("ejerimpmet", "INTEGER");
   for (const char* text :
        {"siglaspaisintra", "nifpaisintra", "opeivacaja", "opeinvsujpas", "operegposadu"}) {
     operations.emplace_back(text, "TEXT");
   }
   operations.emplace_back("impanudevopecaj", "REAL");
-  Columns rentals = Long({"codarr", "coddeclar", "provi", "prova"});
+  Columns rentals = Long({"codarr", "coddeclar", "prova", "provi"});
   for (const char* text : {"paiso", "nifa", "razon"}) rentals.emplace_back(text, "TEXT");
   rentals.emplace_back("importe", "REAL");
   for (const char* text : {"municipioa", "refcat", "viaa", "domicilioa"}) rentals.emplace_back(text, "TEXT");
