@@ -5,6 +5,8 @@
 #ifndef ZERBAL_PLATFORM_H_
 #define ZERBAL_PLATFORM_H_
 
+#include <string>
+
 namespace zerbal {
 
 // The application's mouse pointer: busy-on shows the hourglass (pointer
@@ -21,6 +23,20 @@ class BusyPointer {
 // which does nothing). The library does not own it; it must outlive its use.
 void SetBusyPointer(BusyPointer* pointer);
 BusyPointer& CurrentBusyPointer();
+
+// The message box with the critical-error icon and an OK button, in which
+// the upgrade (cTraspaso) shows its two messages. The default writes the
+// message and a line end to standard error.
+class CriticalMessageBox {
+ public:
+  virtual ~CriticalMessageBox() = default;
+  virtual void Show(const std::string& message) = 0;
+};
+
+// Installs `box` for the calling thread (nullptr restores the default). The
+// library does not own it; it must outlive its use.
+void SetCriticalMessageBox(CriticalMessageBox* box);
+CriticalMessageBox& CurrentCriticalMessageBox();
 
 }  // namespace zerbal
 

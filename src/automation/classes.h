@@ -23,6 +23,7 @@ inline constexpr std::string_view kDatosGeneralesProgId = "zerbal.cDatosGenerale
 inline constexpr std::string_view kExportacionProgId = "zerbal.cExportacion";
 inline constexpr std::string_view kTImpExpProgId = "zerbal.cTImpExp";
 inline constexpr std::string_view kImpExpProgId = "zerbal.cImpExp";
+inline constexpr std::string_view kTraspasoProgId = "zerbal.cTraspaso";
 
 std::unique_ptr<AutomationObject> NewMiscelaneos();
 std::unique_ptr<AutomationObject> NewConexionDAO();
@@ -35,6 +36,7 @@ std::unique_ptr<AutomationObject> NewDatosGenerales();
 std::unique_ptr<AutomationObject> NewExportacion();
 std::unique_ptr<AutomationObject> NewTImpExp();
 std::unique_ptr<AutomationObject> NewImpExp();
+std::unique_ptr<AutomationObject> NewTraspaso();
 
 // A recordset as an object (class name "Recordset"): what openRecordset
 // returns.

@@ -27,6 +27,7 @@ constexpr ClassEntry kClasses[] = {
     {automation::kExportacionProgId, automation::NewExportacion},
     {automation::kTImpExpProgId, automation::NewTImpExp},
     {automation::kImpExpProgId, automation::NewImpExp},
+    {automation::kTraspasoProgId, automation::NewTraspaso},
 };
 
 }  // namespace

@@ -99,6 +99,8 @@ const std::vector<Interface>& Interfaces() {
        {{"mdbmod", L, 1, 0}, {"mdblec", L, 1, 0}, {"CargarPresentador", M, 1, 0},
         {"GuardarPresentador", M, 1, 0}, {"EliminarPresentador", M, 1, 0},
         {"NifRepetido", M, 1, 0}}},
+      {"zerbal.cTraspaso",
+       {{"mdbmod", L, 1, 0}, {"mdblec", L, 1, 0}, {"mdbPath", L, 1, 0}, {"Traspaso", M, 0, 0}}},
       {"Brevandol.cMiscelaneos", {{"ValidaNifCif", M, 1, 1}, {"ValidarForeignNIf", M, 2, 0}}},
   };
   return interfaces;
