@@ -5,6 +5,7 @@
 #ifndef ZERBAL_CLI_COMMANDS_H_
 #define ZERBAL_CLI_COMMANDS_H_
 
+#include <filesystem>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -19,6 +20,12 @@ int RunExport(const Args& args, std::ostream& out, std::ostream& err);
 // 0 every line stored, 3 some lines refused, 1 the import could not run.
 int RunImport(const Args& args, std::ostream& out, std::ostream& err);
 int RunAutomation(const Args& args, std::istream& in, std::ostream& out, std::ostream& err);
+int RunUpgrade(const Args& args, std::ostream& out, std::ostream& err);
+
+// Throws a std::runtime_error that names `zerbal upgrade` when the data
+// database at `data` is an earlier year's (it lacks columns of the current
+// one). Every command that works on a data database calls it first.
+void RefuseEarlierDatabase(const std::filesystem::path& data);
 
 // Writes "zerbal: <description> (error <number>)" for the library's error
 // being handled ("zerbal: <message>" for any other) and returns 1. Call only

@@ -73,6 +73,7 @@ int RunExport(const Args& args, std::ostream& out, std::ostream& err) {
   }
   if (&err == &std::cerr && ::isatty(STDERR_FILENO)) options.progress = &err;
   try {
+    RefuseEarlierDatabase(options.data);
     const ExportSummary s = ExportYear(options);
     out << "Exported " << s.declarants << " declarant" << (s.declarants == 1 ? "" : "s") << ", "
         << s.records << " records to " << s.file.string() << "\n";

@@ -15,7 +15,8 @@ constexpr const char* kUsage =
     "Keeps the form 347 declarations of declarants in two databases.\n"
     "\n"
     "Commands:\n"
-    "  init DIR [--force]   create the data and lookup databases in DIR\n"
+    "  init DIR [--force] [--schema YEAR]\n"
+    "                       create the data and lookup databases in DIR\n"
     "  demo [DIR]           run a short demonstration in DIR (default: a new\n"
     "                       temporary folder)\n"
     "  import --dir DIR FILE\n"
@@ -23,6 +24,9 @@ constexpr const char* kUsage =
     "                       not stored\n"
     "  export --dir DIR --year YEAR --out FILE\n"
     "                       write the declaration file of a fiscal year\n"
+    "  upgrade --dir DIR [--backup-dir DIR2]\n"
+    "                       bring an earlier year's data database to the\n"
+    "                       current columns, after a backup copy\n"
     "  nif [--vat] [ID...]  check Spanish tax identifiers (or VAT numbers)\n"
     "  automation           drive the library's classes with JSON lines on\n"
     "                       standard input and output\n"
@@ -51,6 +55,7 @@ int main(int argc, char** argv) {
   if (command == "import") return RunImport(args, std::cout, std::cerr);
   if (command == "export") return RunExport(args, std::cout, std::cerr);
   if (command == "automation") return RunAutomation(args, std::cin, std::cout, std::cerr);
+  if (command == "upgrade") return RunUpgrade(args, std::cout, std::cerr);
   if (command == "nif") return RunNif(args, std::cin, std::cout, std::cerr);
   std::cerr << "zerbal: unknown command '" << command << "'\n\n" << kUsage;
   return 2;
