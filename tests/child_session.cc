@@ -72,6 +72,32 @@ void ChildSession::Kill() {
   Finish();
 }
 
+ToolProcess::ToolProcess(const std::vector<std::string>& args) {
+  std::vector<char*> argv{const_cast<char*>(ZERBAL_CLI_PATH)};
+  for (const std::string& arg : args) argv.push_back(const_cast<char*>(arg.c_str()));
+  argv.push_back(nullptr);
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
+  posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+  const int rc = posix_spawn(&pid_, ZERBAL_CLI_PATH, &actions, nullptr, argv.data(), environ);
+  posix_spawn_file_actions_destroy(&actions);
+  if (rc != 0) throw std::runtime_error("cannot start " ZERBAL_CLI_PATH);
+}
+
+int ToolProcess::Wait() {
+  if (pid_ < 0) return -1;
+  int status = 0;
+  ::waitpid(pid_, &status, 0);
+  pid_ = -1;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+void ToolProcess::Kill() {
+  if (pid_ >= 0) ::kill(pid_, SIGKILL);
+  Wait();
+}
+
 std::string Shell(const std::string& path, const std::string& sql) {
   const std::string command = "sqlite3 -readonly '" + path + "' \"" + sql + "\" 2>&1";
   FILE* pipe = ::popen(command.c_str(), "r");

@@ -7,6 +7,7 @@
 #include <sys/types.h>
 
 #include <string>
+#include <vector>
 
 namespace zerbal::test {
 
@@ -31,6 +32,24 @@ class ChildSession {
   int to_child_ = -1;
   int from_child_ = -1;
   std::string pending_;
+};
+
+// The tool built with the tests run with `args` as another process, its
+// output thrown away.
+class ToolProcess {
+ public:
+  explicit ToolProcess(const std::vector<std::string>& args);
+  ~ToolProcess() { Wait(); }
+  ToolProcess(const ToolProcess&) = delete;
+  ToolProcess& operator=(const ToolProcess&) = delete;
+
+  // Waits for it; its exit status, -1 when it was killed.
+  int Wait();
+  // Ends it at once (SIGKILL), as a crash would, and waits for it.
+  void Kill();
+
+ private:
+  pid_t pid_ = -1;
 };
 
 // What the sqlite3 shell prints for `sql` on the file at `path`, opened

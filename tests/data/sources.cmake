@@ -8,4 +8,5 @@ list(APPEND ZERBAL_TEST_SOURCES
   data/open_test.cc
   data/replace_test.cc
   data/statement_cache_test.cc
+  data/table_defs_test.cc
 )
