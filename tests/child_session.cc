@@ -13,6 +13,19 @@
 extern char** environ;
 
 namespace zerbal::test {
+namespace {
+
+// Waits for the child `pid` (none when negative, and none after this);
+// its exit status, -1 when it did not exit by itself.
+int Reap(pid_t& pid) {
+  if (pid < 0) return -1;
+  int status = 0;
+  ::waitpid(pid, &status, 0);
+  pid = -1;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+}  // namespace
 
 ChildSession::ChildSession() {
   int in[2];
@@ -61,10 +74,7 @@ int ChildSession::Finish() {
   if (pid_ < 0) return -1;
   ::close(to_child_);
   ::close(from_child_);
-  int status = 0;
-  ::waitpid(pid_, &status, 0);
-  pid_ = -1;
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return Reap(pid_);
 }
 
 void ChildSession::Kill() {
@@ -85,13 +95,7 @@ ToolProcess::ToolProcess(const std::vector<std::string>& args) {
   if (rc != 0) throw std::runtime_error("cannot start " ZERBAL_CLI_PATH);
 }
 
-int ToolProcess::Wait() {
-  if (pid_ < 0) return -1;
-  int status = 0;
-  ::waitpid(pid_, &status, 0);
-  pid_ = -1;
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
+int ToolProcess::Wait() { return Reap(pid_); }
 
 void ToolProcess::Kill() {
   if (pid_ >= 0) ::kill(pid_, SIGKILL);

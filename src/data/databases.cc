@@ -21,19 +21,23 @@ const std::vector<std::string_view> kLookupScripts = {
     "lookup_schema.sql",    "lookup_operaciones.sql", "lookup_provincias.sql",
     "lookup_siglas_via.sql", "lookup_paises.sql",      "lookup_general.sql"};
 
-// An earlier year's data database is the current one with that year's
-// tables put in place of the current ones.
+// An earlier year's data database is the current one with what that year
+// lacked taken away: 2011 lacks the intra-community and 2014 columns, 2008
+// the quarterly amounts as well, 2007 has tables of its own.
 struct EarlierSchema {
   int year;
-  std::string_view script;
+  std::vector<std::string_view> scripts;
 };
-constexpr EarlierSchema kEarlierSchemas[] = {
-    {2007, "data_schema_2007.sql"}, {2008, "data_schema_2008.sql"}, {2011, "data_schema_2011.sql"}};
+const std::vector<EarlierSchema> kEarlierSchemas = {
+    {2007, {"data_schema.sql", "data_schema_2007.sql"}},
+    {2008, {"data_schema.sql", "data_schema_2011.sql", "data_schema_2008.sql"}},
+    {2011, {"data_schema.sql", "data_schema_2011.sql"}},
+};
 
 std::vector<std::string_view> DataScripts(int schema) {
   if (schema == kCurrentSchema) return kDataScripts;
   for (const EarlierSchema& earlier : kEarlierSchemas) {
-    if (earlier.year == schema) return {kDataScripts[0], earlier.script};
+    if (earlier.year == schema) return earlier.scripts;
   }
   Raise(errc::kInvalidProcedureCall, "no data database of " + std::to_string(schema));
 }

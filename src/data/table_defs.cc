@@ -175,13 +175,14 @@ void TableDef::Append(FieldDef field) {
   const auto at = std::upper_bound(
       fields.begin(), fields.end(), field.ordinal_position,
       [](int position, const FieldDef& f) { return position < f.ordinal_position; });
-  const bool last = at == fields.end();
+  // The engine adds a last column without copying the rows, unless it is
+  // required without a default.
+  const bool last = at == fields.end() && !(field.required && field.default_value.empty());
   fields.insert(at, field);
   const auto conn = db_->Engine();
   Atomically(*conn, [&](sqlite3* db) {
     const TableSchema schema = ReadTableSchema(db, name_);
     if (last) {
-      // The engine adds a last column without copying the rows.
       ExecScript(db, "ALTER TABLE " + Identifier(schema.name) + " ADD COLUMN " + ColumnSql(field));
     } else {
       Rebuild(db, schema, Targets(schema, fields));

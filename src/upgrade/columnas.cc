@@ -11,9 +11,11 @@
 namespace zerbal::upgrade {
 namespace {
 
-data::Database OpenToRead(const std::string& mdbmod) {
+// Opened for writing (when the file allows it) so that what a process ended
+// in the middle of a change left in the journal is undone first.
+data::Database Open(const std::string& mdbmod) {
   data::Workspace workspace("Columnas", "admin", "", 2);
-  return workspace.OpenDatabase(mdbmod, false, /*read_only=*/true, "");
+  return workspace.OpenDatabase(mdbmod, false, false, "");
 }
 
 // The table definition `name`, or none when the database has no such table.
@@ -27,7 +29,7 @@ std::optional<data::TableDef> Tabla(const data::TableDefs& tablas, std::string_v
 }  // namespace
 
 std::vector<bool> MarcadoresPresentes(const std::string& mdbmod) {
-  const data::Database db = OpenToRead(mdbmod);
+  const data::Database db = Open(mdbmod);
   const data::TableDefs tablas(db);
   std::vector<bool> presentes;
   for (const Grupo& grupo : kGrupos) {
@@ -38,7 +40,7 @@ std::vector<bool> MarcadoresPresentes(const std::string& mdbmod) {
 }
 
 std::vector<std::string> ColumnasQueFaltan(const std::string& mdbmod) {
-  const data::Database db = OpenToRead(mdbmod);
+  const data::Database db = Open(mdbmod);
   const data::TableDefs tablas(db);
   std::vector<std::string> faltan;
   for (const data::TableSchema& nueva : data::NewDataSchema()) {

@@ -3,4 +3,5 @@ list(APPEND ZERBAL_TEST_SOURCES
   cli/export_target_test.cc
   cli/export_test.cc
   cli/import_test.cc
+  cli/upgrade_command_test.cc
 )
