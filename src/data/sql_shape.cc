@@ -24,7 +24,7 @@ constexpr std::string_view kForeignWords[] = {
     "ANALYZE", "EXPLAIN",  "GLOB",      "REGEXP",  "MATCH",     "COLLATE", "ESCAPE",
     "INDEXED", "RETURNING", "CONFLICT", "REPLACE", "LIMIT",     "OFFSET",  "OVER",
     "WINDOW",  "FILTER",   "CAST",      "CASE",    "ROWID",     "_ROWID_", "OID",
-    "TEMP",    "TEMPORARY", "TRIGGER",  "VIRTUAL", "GENERATED", "RAISE",   "ISNULL",
+    "TRIGGER", "VIRTUAL",  "GENERATED", "RAISE",   "ISNULL",
     "NOTNULL", "SAVEPOINT", "RELEASE",  "BEGIN",   "COMMIT",    "ROLLBACK", "TRANSACTION"};
 
 // Operators of the engine's own SQL; "&" is the original engine's join of texts.
@@ -95,6 +95,11 @@ void Check(const Tokens& t, bool definition) {
         break;
       case Tok::kWord: {
         if (IsOneOf(t, i, kForeignWords) || IsCatalogueName(token.text)) Refuse(token.text);
+        // A temporary table or view; temp alone is a name (the upgrade's
+        // working column).
+        if ((Is(t, i, "TEMP") || Is(t, i, "TEMPORARY")) && Is(t, Prev(t, i), "CREATE")) {
+          Refuse(token.text);
+        }
         const bool blob = (token.text == "x" || token.text == "X") && i + 1 < t.size() &&
                           (t[i + 1].kind == Tok::kString || t[i + 1].kind == Tok::kParam);
         if (blob) Refuse(token.text + t[i + 1].text);
