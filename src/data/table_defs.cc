@@ -36,7 +36,8 @@ struct Target {
   std::string definition;  // kept as written when not in our conventions
 };
 
-// Runs `change` inside a savepoint, so that it is done whole or not at all.
+// Runs `change` inside a savepoint, so that it is done whole or not at all;
+// the connection's statements are then prepared afresh for the tables.
 template <typename F>
 void Atomically(EngineConnection& conn, F&& change) {
   sqlite3* db = conn.db();
@@ -48,9 +49,15 @@ void Atomically(EngineConnection& conn, F&& change) {
     sqlite3_exec(db, "ROLLBACK TO zerbal_table_change; RELEASE zerbal_table_change", nullptr,
                  nullptr, nullptr);
     conn.NoteOwnWrite();
+    try {
+      conn.TablesChanged();
+    } catch (...) {
+      // The statements are forgotten all the same; the change's error counts.
+    }
     throw;
   }
   conn.NoteOwnWrite();
+  conn.TablesChanged();
 }
 
 // Renames the table without touching what refers to it by name: those

@@ -14,6 +14,11 @@ Transaction::~Transaction() {
   if (!open_) return;
   sqlite3_exec(conn_->db(), "ROLLBACK", nullptr, nullptr, nullptr);
   conn_->NoteOwnWrite();
+  try {
+    conn_->TablesChanged();  // the tables may be as they were before it began
+  } catch (...) {
+    // The statements are forgotten all the same; the indexes only help LIKE.
+  }
 }
 
 void Transaction::Commit() {
