@@ -24,7 +24,8 @@ int RunUpgrade(const Args& args, std::ostream& out, std::ostream& err);
 
 // Throws a std::runtime_error that names `zerbal upgrade` when the data
 // database at `data` is an earlier year's (it lacks columns of the current
-// one). Every command that works on a data database calls it first.
+// one); a missing file is left to the command. Every command that works on
+// a data database calls it first.
 void RefuseEarlierDatabase(const std::filesystem::path& data);
 
 // Writes "zerbal: <description> (error <number>)" for the library's error

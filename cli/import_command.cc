@@ -286,6 +286,7 @@ int RunImport(const Args& args, std::ostream& out, std::ostream& err) {
     progress.Line(line.line);
   };
   try {
+    RefuseEarlierDatabase(c.options.data);
     const ImportSummary s = ImportFile(c.options, each);
     progress.Clear();
     if (c.json) {

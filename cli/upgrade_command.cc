@@ -88,6 +88,8 @@ void Report(const std::vector<bool>& before, const std::vector<bool>& after, std
 }  // namespace
 
 void RefuseEarlierDatabase(const fs::path& data) {
+  std::error_code ec;
+  if (!fs::is_regular_file(data, ec)) return;  // each command says so in its own words
   const std::vector<std::string> missing = upgrade::ColumnasQueFaltan(data.string());
   if (missing.empty()) return;
   const fs::path dir = data.parent_path().empty() ? fs::path(".") : data.parent_path();

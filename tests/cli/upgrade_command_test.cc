@@ -33,6 +33,8 @@ TEST(UpgradeCommandTest, SaysWhatItDidAndExitsZeroOnlyOnAWholeUpgrade) {
       {"no database", -1, {"upgrade", "--dir", "DIR"}, 1, {}, {"(error 3024)"}},
       {"export of 2007", 2007, {"export", "--dir", "DIR", "--year", "2007", "--out", "DIR/x"}, 1,
        {}, {"earlier year's program", "run 'zerbal upgrade --dir "}},
+      {"import into 2011", 2011, {"import", "--dir", "DIR", "DIR/file"}, 1, {},
+       {"earlier year's program", "run 'zerbal upgrade --dir "}},
       {"init of 2008", -1, {"init", "DIR", "--schema", "2008"}, 0, {"(data database of 2008)"}, {}},
       {"init of 2009", -1, {"init", "DIR", "--schema", "2009"}, 1, {}, {"(error 5)"}},
       {"init of no year", -1, {"init", "DIR", "--schema", "x"}, 2, {}, {"usage: zerbal init"}},
@@ -54,6 +56,7 @@ TEST(UpgradeCommandTest, SaysWhatItDidAndExitsZeroOnlyOnAWholeUpgrade) {
     std::ostringstream out, err;
     const int status = c.args[0] == "upgrade" ? RunUpgrade(args, out, err)
                        : c.args[0] == "init"  ? RunInit(args, out, err)
+                       : c.args[0] == "import" ? RunImport(args, out, err)
                                               : RunExport(args, out, err);
     EXPECT_EQ(status, c.status) << c.what << "\n" << out.str() << err.str();
     for (const char* text : c.out) {
