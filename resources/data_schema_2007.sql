@@ -18,7 +18,7 @@ CREATE TABLE tOperadores (
   opeseg          TEXT COLLATE NOCASE CONSTRAINT size_opeseg   CHECK (length(opeseg) <= 1),
   opearr          TEXT COLLATE NOCASE CONSTRAINT size_opearr   CHECK (length(opearr) <= 1)
 ) STRICT;
-CREATE INDEX tOperadores_coddeclar ON tOperadores (coddeclar);
+CREATE INDEX tOperadores_coddeclar ON tOperadores (coddeclar, nifo);
 
 DROP TABLE tArrendamientos;
 CREATE TABLE tArrendamientos (
