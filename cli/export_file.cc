@@ -2,6 +2,7 @@
 
 #include <stdlib.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -69,22 +70,6 @@ void Check(const std::string& record, int32_t row, size_t length, const std::str
   }
 }
 
-// Characters of `utf8` that Windows-1252 has no place for.
-int32_t Unrepresentable(const std::string& utf8) {
-  int32_t count = 0;
-  for (size_t pos = 0; pos < utf8.size();) {
-    if (static_cast<unsigned char>(utf8[pos]) < 0x80) {
-      ++pos;
-      continue;
-    }
-    size_t size = 1;
-    const char32_t c = DecodeAt(utf8, pos, &size);
-    count += (c != U'?' && Windows1252Code(c) == '?');
-    pos += size;
-  }
-  return count;
-}
-
 // The lines of the file as they are built, each in the file's code page.
 class Lines {
  public:
@@ -112,8 +97,12 @@ class Lines {
     buffer_.clear();
   }
   std::string Encoded(const std::string& record) {
-    if (!o_.utf8) summary_.replaced_chars += Unrepresentable(record);
-    return (o_.utf8 ? record : Utf8ToWindows1252(record)) + "\r\n";
+    if (o_.utf8) return record + "\r\n";
+    std::string line = Utf8ToWindows1252(record);
+    // Characters the code page has no place for are written "?".
+    summary_.replaced_chars += static_cast<int32_t>(std::count(line.begin(), line.end(), '?') -
+                                                    std::count(record.begin(), record.end(), '?'));
+    return line + "\r\n";
   }
 
  private:

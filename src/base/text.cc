@@ -1,6 +1,7 @@
 #include "base/text.h"
 
 #include <array>
+#include <cstring>
 
 namespace zerbal {
 namespace {
@@ -79,9 +80,29 @@ void AppendUtf8(std::string* out, char32_t c) {
   }
 }
 
+// Bytes from `pos` on that are ASCII, eight at a time where they can be.
+size_t AsciiRun(std::string_view text, size_t pos) {
+  size_t end = pos;
+  for (; end + 8 <= text.size(); end += 8) {
+    uint64_t word;
+    std::memcpy(&word, text.data() + end, 8);
+    if (word & 0x8080808080808080ULL) break;
+  }
+  while (end < text.size() && static_cast<unsigned char>(text[end]) < 0x80) ++end;
+  return end - pos;
+}
+
 int64_t Len(std::string_view text) {
   int64_t n = 0;
-  for (size_t pos = 0; pos < text.size(); ++n) pos += CharSize(text, pos);
+  for (size_t pos = 0; pos < text.size();) {
+    const size_t ascii = AsciiRun(text, pos);
+    n += static_cast<int64_t>(ascii);
+    pos += ascii;
+    if (pos < text.size()) {
+      pos += CharSize(text, pos);
+      ++n;
+    }
+  }
   return n;
 }
 
@@ -185,8 +206,9 @@ std::string Utf8ToWindows1252(std::string_view utf8) {
   std::string out;
   out.reserve(utf8.size());
   for (size_t pos = 0; pos < utf8.size();) {
-    if (static_cast<unsigned char>(utf8[pos]) < 0x80) {
-      out.push_back(utf8[pos++]);
+    if (const size_t ascii = AsciiRun(utf8, pos); ascii > 0) {
+      out.append(utf8.substr(pos, ascii));
+      pos += ascii;
       continue;
     }
     size_t size = 1;

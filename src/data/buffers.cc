@@ -2,6 +2,7 @@
 
 #include "base/convert.h"
 #include "base/raise.h"
+#include "data/recordset_state.h"
 
 namespace zerbal::General {
 namespace {
@@ -39,7 +40,7 @@ Variant CargarArray(Recordset& recordset, int16_t& mode) {
   if (mode == 1) {
     Variant buffer(Array(0, rows - 1));
     for (int16_t k = 0; !recordset.Eof(); recordset.MoveNext()) {
-      buffer(k) = RestaurarComilla(recordset.Fields(0).Value());
+      buffer(k) = RestaurarComilla(data::CurrentValue(recordset, 0));
       k = Step(k);
     }
     return buffer;
@@ -48,7 +49,7 @@ Variant CargarArray(Recordset& recordset, int16_t& mode) {
     Variant buffer(Array(0, n));
     for (int16_t k = 0; !recordset.Eof(); recordset.MoveNext()) {
       for (int32_t c = 0; c < n; ++c) {
-        buffer(k) = RestaurarComilla(recordset.Fields(c).Value());
+        buffer(k) = RestaurarComilla(data::CurrentValue(recordset, c));
         k = Step(k);
       }
     }
@@ -58,7 +59,7 @@ Variant CargarArray(Recordset& recordset, int16_t& mode) {
   for (int16_t k = 0; !recordset.Eof(); recordset.MoveNext()) {
     k = Step(k);
     for (int32_t c = 0; c < n; ++c) {
-      buffer(c, k) = RestaurarComilla(recordset.Fields(c).Value());
+      buffer(c, k) = RestaurarComilla(data::CurrentValue(recordset, c));
     }
   }
   return buffer;
@@ -70,7 +71,9 @@ std::string SustituirComilla(std::string_view text) {
 
 std::string RestaurarComilla(const Variant& value) {
   if (value.IsNull()) return "";
-  return ReplaceAll(CStr(value), kAcute, kApostrophe);
+  if (value.Kind() != VarKind::kString) return CStr(value);  // numbers hold no accent
+  const std::string& text = value.AsString();
+  return text.find(kAcute) == std::string::npos ? text : ReplaceAll(text, kAcute, kApostrophe);
 }
 
 }  // namespace zerbal::General

@@ -35,6 +35,14 @@ class RecordsetStateAccess {
   static const std::shared_ptr<RecordsetState>& State(const Recordset& rs) { return rs.state_; }
 };
 
+// The value of column `c` of the current row, read in place: what
+// rs.Fields(c).Value() gives, without its copy, for an open recordset on a
+// row (the caller has checked both).
+inline const Variant& CurrentValue(const Recordset& rs, int32_t c) {
+  const RecordsetState& s = *RecordsetStateAccess::State(rs);
+  return s.values[static_cast<size_t>(s.position) * s.names.size() + static_cast<size_t>(c)];
+}
+
 }  // namespace zerbal::data
 
 #endif  // ZERBAL_DATA_RECORDSET_STATE_H_

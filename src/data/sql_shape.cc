@@ -169,8 +169,14 @@ void Lift(std::string_view sql, Shape& shape) {
   int depth = 0;
   bool after_top = false;
   auto kept_here = [&] { return !kept_depth.empty() && kept_depth.back() == depth; };
+  size_t copied = 0;  // the text is copied in runs, up to each lifted value
+  auto lift = [&](size_t begin, Literal value) {
+    shape.text.append(sql.substr(copied, begin - copied)).push_back('?');
+    shape.values.push_back(std::move(value));
+  };
   for (size_t pos = 0; pos < sql.size();) {
     Tok kind;
+    const size_t begin = pos;
     const size_t len = ScanToken(sql, pos, &kind);
     const std::string_view token = sql.substr(pos, len);
     pos += len;
@@ -180,14 +186,14 @@ void Lift(std::string_view sql, Shape& shape) {
       case Tok::kString:
       case Tok::kNumber:
         if (keep) break;
-        shape.values.push_back(kind == Tok::kString ? TextValue(StringValue(token)) : NumberValue(token));
-        shape.text.push_back('?');
-        continue;
+        lift(begin, kind == Tok::kString ? TextValue(StringValue(token)) : NumberValue(token));
+        copied = pos;
+        break;
       case Tok::kQuoted:
         if (token[0] != '"' || keep) break;
-        shape.values.push_back(TextValue(DoubleQuotedValue(token)));
-        shape.text.push_back('?');
-        continue;
+        lift(begin, TextValue(DoubleQuotedValue(token)));
+        copied = pos;
+        break;
       case Tok::kParam: Refuse(token);
       case Tok::kPunct:
         if (token == "(") ++depth;
@@ -218,8 +224,8 @@ void Lift(std::string_view sql, Shape& shape) {
         break;
       default: break;
     }
-    shape.text.append(token);
   }
+  shape.text.append(sql.substr(copied));
 }
 
 }  // namespace
