@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <map>
 
+#include "bench/bench_folder.h"
 #include "cli/demo_data.h"
 #include "cli/export_file.h"
 #include "data/engine.h"
@@ -34,9 +35,7 @@ constexpr int kOperationsEach = 300;
 // A data database with `declarants` declarants of 2014: the first one's
 // operations saved through cDeclarado, the others' copied from them in SQL.
 fs::path MakeYear(int declarants) {
-  std::string pattern = (fs::temp_directory_path() / "zerbal-bench-XXXXXX").string();
-  if (::mkdtemp(pattern.data()) == nullptr) std::abort();
-  const DatabasePaths paths = CreateDatabases(pattern);
+  const DatabasePaths paths = CreateDatabases(bench::NewBenchFolder());
   const std::string data = paths.data.string();
   cPresentador presentador;
   cDeclarante declarante;

@@ -10,6 +10,7 @@
 
 #include <filesystem>
 
+#include "bench/bench_folder.h"
 #include "cli/demo_data.h"
 #include "data/engine.h"
 #include "zerbal/databases.h"
@@ -34,9 +35,7 @@ struct Year {
 };
 
 Year MakeYear(bool with_operations = false) {
-  std::string pattern = (fs::temp_directory_path() / "zerbal-bench-XXXXXX").string();
-  if (::mkdtemp(pattern.data()) == nullptr) std::abort();
-  const DatabasePaths paths = CreateDatabases(pattern);
+  const DatabasePaths paths = CreateDatabases(bench::NewBenchFolder());
   cDeclarante declarante;
   cDeclaraciones declaraciones;
   declarante.mdbmod(paths.data.string());
