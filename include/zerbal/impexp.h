@@ -29,9 +29,10 @@
 // Sujeto is the kind of the last line: 0 presenter, 1 declarant, 3
 // operation, 4 rental, 5 unknown record type (nothing done).
 //
-// Lines of declarations before 2014, and lines in the state agency's layout
-// (blnEstatal), are refused by raising error 5 until their modules exist.
-// Failures of the databases reach the caller as the method's error; what
+// Operation and rental lines are split and validated by the module of the
+// declaration's year (Importacion_2007, _2008, _2011 or _2014); lines in the
+// state agency's layout (blnEstatal) are first converted by the module of
+// their own year (ConvDelEstatal_2007 to _2014). Failures of the databases reach the caller as the method's error; what
 // was stored before stays stored.
 
 #ifndef ZERBAL_IMPEXP_H_

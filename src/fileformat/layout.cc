@@ -1,17 +1,15 @@
 #include "fileformat/layout.h"
 
-#include <cmath>
 #include <string>
 
 #include "base/convert.h"
 #include "base/raise.h"
 #include "base/text.h"
+#include "fileformat/pesetas.h"
 #include "reference/general.h"
 
 namespace zerbal::fileformat {
 namespace {
-
-constexpr double kPesetasPorEuro = 166.386;
 
 const Variant& Buffer(const Variant* buffer) {
   static const Variant kNone;
@@ -30,12 +28,10 @@ const Variant& ValueOf(const Source& source, const RecordInput& input) {
   return Buffer(nullptr);
 }
 
-// Round(amount / 166.386, 2) * 100 for pesetas: whole euro cents, halves to
-// the even neighbour (the default rounding of nearbyint).
+// Euro cents of an amount in pesetas when the currency is "P".
 double Converted(const Variant& value, std::string_view moneda) {
   const double amount = CDbl(value);
-  if (moneda != "P") return amount;
-  return std::nearbyint(amount / kPesetasPorEuro * 100);
+  return moneda == "P" ? CentimosDePesetas(amount) : amount;
 }
 
 std::string SignedAmount(const Variant& value, int16_t width) {

@@ -150,9 +150,9 @@ constexpr Field Flag(std::string_view name, int16_t start, std::string_view lett
 }
 
 // Pieces of a layout joined in order (shared heads and tails are written once).
-template <size_t... N>
-constexpr std::array<Field, (N + ...)> Join(const std::array<Field, N>&... parts) {
-  std::array<Field, (N + ...)> all{};
+template <typename T, size_t... N>
+constexpr std::array<T, (N + ...)> Join(const std::array<T, N>&... parts) {
+  std::array<T, (N + ...)> all{};
   size_t next = 0;
   ((std::copy(parts.begin(), parts.end(), all.begin() + next), next += N), ...);
   return all;

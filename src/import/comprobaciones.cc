@@ -19,15 +19,18 @@ void ComprobarVacioSinTexto(const std::string& strValor, Variant& vBufferErrores
   if (Trim(strValor).empty()) AnadirError(vBufferErrores, intErrores, lngError, "");
 }
 
-bool ComprobarNumerico(const std::string& strValor, Variant& vBufferErrores, int16_t& intErrores,
-                       int32_t lngError) {
+bool SoloCifras(std::string_view strValor) {
   for (char c : strValor) {
-    if (c < '0' || c > '9') {
-      AnadirError(vBufferErrores, intErrores, lngError, strValor);
-      return false;
-    }
+    if (c < '0' || c > '9') return false;
   }
   return true;
+}
+
+bool ComprobarNumerico(const std::string& strValor, Variant& vBufferErrores, int16_t& intErrores,
+                       int32_t lngError) {
+  if (SoloCifras(strValor)) return true;
+  AnadirError(vBufferErrores, intErrores, lngError, strValor);
+  return false;
 }
 
 void ComprobarLongitudMinima(const std::string& strValor, Variant& vBufferErrores,

@@ -1,6 +1,10 @@
 #include "import/cortes.h"
 
 #include "base/convert.h"
+#include "base/text.h"
+#include "fileformat/pesetas.h"
+#include "import/importacion.h"
+#include "reference/general.h"
 
 namespace zerbal::Importacion {
 
@@ -15,13 +19,33 @@ Variant Cortar(std::string_view strLinea, std::span<const Corte> cortes, int32_t
   return valores;
 }
 
-std::string Valor(const Variant& vBufferValores, std::string_view nombre) {
+int32_t Lugar(const Variant& vBufferValores, std::string_view nombre) {
   const Array& valores = vBufferValores.AsArray();
   for (int32_t k = 1; k <= valores.UBound(1); ++k) {
     const Variant& name = valores(k, 1);
-    if (name.Kind() == VarKind::kString && name.AsString() == nombre) return CStr(valores(k, 0));
+    if (name.Kind() == VarKind::kString && name.AsString() == nombre) return k;
   }
-  return {};
+  return 0;
+}
+
+std::string Valor(const Variant& vBufferValores, std::string_view nombre) {
+  const int32_t k = Lugar(vBufferValores, nombre);
+  return k > 0 ? CStr(vBufferValores(k, 0)) : std::string();
+}
+
+void EnEuros(Variant& vBufferValores, std::string_view nombre, bool Convertir) {
+  const int32_t k = Lugar(vBufferValores, nombre);
+  if (!Convertir || k == 0) return;
+  const std::string pesetas = CStr(vBufferValores(k, 0));
+  if (pesetas.empty() || !SoloCifras(pesetas)) return;
+  vBufferValores(k, 0) = General::FormatoNumero(fileformat::CentimosDePesetas(Val(pesetas)),
+                                                static_cast<int16_t>(Len(pesetas)), "0");
+}
+
+void PaisArrendamiento(Variant& vBufferValores) {
+  const int32_t k = Lugar(vBufferValores, "Pais");
+  if (k == 0) return;
+  vBufferValores(k, 0) = Trim(Valor(vBufferValores, "NIFPRE")).empty() ? "OP" : "";
 }
 
 }  // namespace zerbal::Importacion

@@ -38,6 +38,19 @@ Variant Cortar(std::string_view strLinea, std::span<const Corte> cortes, int32_t
 // is none.
 std::string Valor(const Variant& vBufferValores, std::string_view nombre);
 
+// The place of the first field called `nombre`; 0 when there is none.
+int32_t Lugar(const Variant& vBufferValores, std::string_view nombre);
+
+// With `Convertir` (a file in pesetas, a declaration in euros), the amount
+// of the field `nombre` in euro cents (fileformat/pesetas.h), zero-filled
+// to the width it had. A value that is not digits alone stays as read, for
+// the validator to refuse.
+void EnEuros(Variant& vBufferValores, std::string_view nombre, bool Convertir);
+
+// The country of a rental of 2008 on, which the line does not hold: "OP"
+// (other countries) when the lessee has no NIF, empty when it has one.
+void PaisArrendamiento(Variant& vBufferValores);
+
 }  // namespace zerbal::Importacion
 
 #endif  // ZERBAL_IMPORT_CORTES_H_

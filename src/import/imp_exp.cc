@@ -4,6 +4,7 @@
 #include "base/raise.h"
 #include "base/text.h"
 #include "data/open.h"
+#include "fileformat/conv_del_estatal.h"
 #include "import/errores.h"
 #include "import/importacion.h"
 #include "import/modulos.h"
@@ -34,10 +35,6 @@ T Clase(const std::string& mdbmod) {
   T object;
   object.mdbmod(mdbmod);
   return object;
-}
-
-[[noreturn]] void NoImportado(const std::string& que) {
-  Raise(errc::kInvalidProcedureCall, que + " are not imported yet");
 }
 
 }  // namespace
@@ -175,11 +172,11 @@ bool cImpExp::Clasificar(const std::string& strLineaLectura) {
   return true;
 }
 
+// The module is chosen by the line's own year; an empty result (an unknown
+// type, or a type-2 line with neither "D" nor "I" at 76) then classifies as
+// an unknown record type.
 void cImpExp::ConvertirEstatal(std::string& strLineaLectura, const std::string& strRuta) {
-  // The conversion is fileformat::ConvertirLineaEstatal, whose module the
-  // line's year picks; until the import takes state-layout files up, their
-  // lines are refused here, before anything is checked or stored.
-  NoImportado("lines in the state agency's layout");
+  strLineaLectura = fileformat::ConvertirLineaEstatal(strLineaLectura, strRuta);
 }
 
 bool cImpExp::ExisteDeclarante(Variant& vBufferValores) {
@@ -216,14 +213,10 @@ uint8_t cImpExp::ValidarLinea(const std::string& strLinea, Variant& vBufferValor
   if (!HayErrores(vBufferErrores)) vBufferErrores = ComprobarEjercicio(strLinea, ejercicio);
   if (HayErrores(vBufferErrores)) return 6;
   lngEjercicio = CLng(ejercicio);
-  const Par* par = blnOperacion ? ParDeclarados(lngEjercicio) : ParArrendamientos(lngEjercicio);
-  if (par == nullptr) {
-    NoImportado((blnOperacion ? "operations" : "rentals") + std::string(" of declarations of ") +
-                ejercicio);
-  }
-  vBufferValores = par->leer(strLinea, convertir_);
-  vBufferErrores = par->validar(vBufferValores, par->limite, mdblec_, mdbmod_, ejercicio_max_,
-                                ejercicio_min_, Declaracion());
+  const Par& par = blnOperacion ? ParDeclarados(lngEjercicio) : ParArrendamientos(lngEjercicio);
+  vBufferValores = par.leer(strLinea, convertir_);
+  vBufferErrores = par.validar(vBufferValores, par.limite, mdblec_, mdbmod_, ejercicio_max_,
+                               ejercicio_min_, Declaracion());
   return HayErrores(vBufferErrores) ? 3 : 0;
 }
 

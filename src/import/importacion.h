@@ -50,6 +50,8 @@ void ComprobarVacio(const std::string& strValor, Variant& vBufferErrores, int16_
 void ComprobarVacioSinTexto(const std::string& strValor, Variant& vBufferErrores,
                             int16_t& intErrores, int32_t lngError);
 // a character other than 0 to 9 (the empty value passes); true when it passes;
+// SoloCifras is the same test without recording anything;
+bool SoloCifras(std::string_view strValor);
 bool ComprobarNumerico(const std::string& strValor, Variant& vBufferErrores, int16_t& intErrores,
                        int32_t lngError);
 // fewer than `intMinimo` characters, with the value as text;

@@ -1,9 +1,7 @@
 // Which module serves which fiscal year: the one place that decides, for
 // the driver, the splitter and validator of an operation or rental line by
-// the declaration's year. A module not yet built is absent (nullptr), and
-// the driver refuses its lines; adding one is adding its entry here. (The
-// converter of a state-layout line is picked by the line's own year in
-// fileformat/conv_del_estatal.h.)
+// the declaration's year. (The converter of a state-layout line is picked
+// by the line's own year in fileformat/conv_del_estatal.h.)
 
 #ifndef ZERBAL_IMPORT_MODULOS_H_
 #define ZERBAL_IMPORT_MODULOS_H_
@@ -26,10 +24,12 @@ struct Par {
   int16_t limite;
 };
 
-// Operations: up to 2007, 2008 to 2010, 2011 to 2013, 2014 on.
-const Par* ParDeclarados(int32_t lngEjercicio);
-// Rentals: up to 2007, 2008 to 2013, 2014 on.
-const Par* ParArrendamientos(int32_t lngEjercicio);
+// Operations: up to 2007 Importacion_2007, 2008 to 2010 Importacion_2008,
+// 2011 to 2013 Importacion_2011, 2014 on Importacion_2014.
+const Par& ParDeclarados(int32_t lngEjercicio);
+// Rentals: up to 2007 Importacion_2007, 2008 to 2013 Importacion_2008, 2014
+// on Importacion_2014.
+const Par& ParArrendamientos(int32_t lngEjercicio);
 
 }  // namespace zerbal::Importacion
 

@@ -3,6 +3,7 @@
 #include "base/convert.h"
 #include "base/text.h"
 #include "import/cortes.h"
+#include "reference/general.h"
 
 namespace zerbal::Importacion {
 namespace {
@@ -40,7 +41,10 @@ Variant BufferDeclarado(const Variant& v, int32_t lngDeclaracion) {
   b(0) = int32_t{0};
   b(1) = lngDeclaracion;
   b(2) = Trim(campo("Prov"));
-  const std::string pais = campo("Pais");
+  std::string pais = campo("Pais");
+  // Up to 2007 the country is a numeric code, kept in the three digits the
+  // export writes: a state line's code, left-justified, gives the same row.
+  if (ejercicio <= 2007) pais = General::FormatoNumero(General::BC(Variant(Trim(pais))), 3, "0");
   b(3) = ejercicio >= 2007 && (Trim(pais).empty() || pais == "00") ? std::string(" ") : pais;
   b(4) = Trim(CStr(v(kNifDeclarado, 0)));
   b(5) = Trim(campo("Nombre"));

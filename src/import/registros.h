@@ -17,7 +17,9 @@ namespace zerbal::Importacion {
 std::string ConSigno(const std::string& strValor);
 
 // The operation (0 to 27) of the line's own year (field Ejercicio), a new
-// row of declaration `lngDeclaracion`.
+// row of declaration `lngDeclaracion`. Up to 2007 the numeric country code
+// is stored in three digits ("000" for none), whatever blanks surround it
+// in the line.
 Variant BufferDeclarado(const Variant& vBufferValores, int32_t lngDeclaracion);
 
 // The rental (0 to 15) of a declaration of year `lngEjercicio`, a new row of

@@ -41,6 +41,11 @@ std::string DescripcionVia(const std::string& mdblec, const std::string& strCodi
   return Descripciones(mdblec).ObtenerDescriVia(General::SustituirComilla(strCodigo), 0);
 }
 
+std::string DescripcionPais(const std::string& mdblec, double dblCodigo) {
+  if (dblCodigo < -32768 || dblCodigo > 32767) return {};
+  return Descripciones(mdblec).ObtenerDesPais(static_cast<int32_t>(dblCodigo), 0);
+}
+
 bool DeclaradoRepetido(const std::string& mdbmod, const std::string& strDeclaracion,
                        const Coincidencia& c) {
   using General::SustituirComilla;

@@ -25,6 +25,10 @@ bool NifIntraValido(const std::string& strNif, const std::string& strPais);
 // the empty text for an unknown code.
 std::string NombreProvincia(const std::string& mdblec, const std::string& strCodigo);
 std::string DescripcionVia(const std::string& mdblec, const std::string& strCodigo);
+// cDatosGenerales.ObtenerDesPais of a numeric country code (2007 and
+// before) in Spanish; empty for an unknown code, and for one beyond the
+// 16-bit codes of the table.
+std::string DescripcionPais(const std::string& mdblec, double dblCodigo);
 
 // The operation's keys and marks as cDeclarado.DeclaradosCoincidentes takes
 // them.

@@ -8,8 +8,13 @@ list(APPEND ZERBAL_SOURCES
   import/errores.cc
   import/imp_exp.cc
   import/imp_exp_binding.cc
+  import/importacion_2007.cc
+  import/importacion_2008.cc
+  import/importacion_2011.cc
   import/modulos.cc
   import/registros.cc
   import/servicios.cc
   import/validacion.cc
+  import/validacion_arrendamiento.cc
+  import/validacion_declarado.cc
 )

@@ -6,6 +6,7 @@
 #include "import/errores.h"
 #include "import/importacion.h"
 #include "import/servicios.h"
+#include "reference/general.h"
 
 namespace zerbal::Importacion {
 
@@ -62,6 +63,24 @@ void Validacion::Provincia(const std::string& prov) {
   ComprobarNumerico(prov, errores_, n_, kProvinciaNoNumerica);
   ComprobarVacio(prov, errores_, n_, kProvinciaVacia);
   if (Trim(NombreProvincia(mdblec_, prov)).empty()) Anadir(kProvinciaVacia, "");
+}
+
+void Validacion::ImporteSinSigno(const std::string& v) {
+  ComprobarNumerico(v, errores_, n_, kImporteNoNumerico);
+  ComprobarNoNegativo(v, errores_, n_, kImporteNegativo);
+  ComprobarVacio(v, errores_, n_, kImporteVacio);
+}
+
+void Validacion::PaisNumerico(const std::string& pais, bool blnConocido) {
+  const std::string codigo = Trim(pais);
+  if (blnConocido && Trim(DescripcionPais(mdblec_, General::BC(Variant(codigo)))).empty()) {
+    Anadir(kPaisVacio, "");
+  }
+  if (!SoloCifras(codigo)) Anadir(kPaisNoNumerico, pais);
+}
+
+void Validacion::PaisResidente(const std::string& pais, std::string_view ninguno) {
+  if (!Trim(pais).empty() && Trim(pais) != ninguno) Anadir(kPaisResidente, pais);
 }
 
 }  // namespace zerbal::Importacion

@@ -47,6 +47,18 @@ class Validacion {
   void NifResidente(const std::string& nif);
   // A resident's province: not digits (20), blank (4), unknown (4).
   void Provincia(const std::string& prov);
+  // An amount without a sign position (operations before 2011, rentals
+  // before 2014): not digits (36), negative (37), blank (41), each recorded
+  // with the value as read.
+  void ImporteSinSigno(const std::string& v);
+  // The numeric country code of 2007 and before, judged without its
+  // surrounding blanks (a converted state line pads it with blanks):
+  // with `blnConocido`, one the country table does not know (27, empty
+  // text); then one not written in digits alone (28, as read).
+  void PaisNumerico(const std::string& pais, bool blnConocido);
+  // Whether a resident's country is none: blank, or "00" (two-letter
+  // codes) or "000" (numeric codes); otherwise 35 with the code as read.
+  void PaisResidente(const std::string& pais, std::string_view ninguno);
 
   // Runs, for every field from 1 to the last, the rule of `reglas` that
   // bears its name (none for a name without one).

@@ -1,5 +1,5 @@
-// Valid lines of a 2014 declaration file, written by the export's own record
-// writers, the small verbs that spoil them (set a field, cut the line), and
+// Valid lines of a declaration file of any year, written by the export's
+// own record writers, the small verbs that spoil them (set a field, cut the line), and
 // the errors of a buffer as a list that a failure prints whole.
 
 #ifndef ZERBAL_TESTS_IMPORT_LINEAS_H_
@@ -12,6 +12,7 @@
 
 #include "base/text.h"
 #include "fileformat/export2014.h"
+#include "fileformat/seleccion.h"
 #include "fileformat/layout_reg1.h"
 #include "fileformat/layout_reg2.h"
 #include "fileformat/layout_reg3.h"
@@ -23,14 +24,18 @@ inline Variant DeclaranteLinea(const std::string& nif) {
   return PersonBuffer(0, nif, "Iturri Ibáñez, Miren");
 }
 
+// Records in the layout of `year`, written by that year's writers
+// (fileformat/seleccion.h).
 inline std::string LineaDeclarante(const std::string& nif = "12345678Z", int32_t year = 2014) {
-  return Export2014::GenerarReg1(DeclaranteLinea(nif), Variant::Null(), "E", year);
+  return fileformat::WritersFor(year).GenerarReg1(DeclaranteLinea(nif), Variant::Null(), "E",
+                                                   year);
 }
 
-// A resident party in Gipuzkoa, key A, 1000 cents over four quarters.
-inline std::string LineaDeclarado() {
-  return Export2014::GenerarReg2(
-      2014, Buffer({"1",   "20",   "",    "54362315K", "Goikoetxea Larrañaga, Ane",
+// A resident party in Gipuzkoa, key A, 1000 cents over four quarters (from
+// 2011).
+inline std::string LineaDeclarado(int32_t year = 2014) {
+  return fileformat::WritersFor(year).GenerarReg2(
+      year, Buffer({"1",   "20",   "",    "54362315K", "Goikoetxea Larrañaga, Ane",
                     "A",   "1000", "0",   "0",         "",
                     "",    "",     "250", "250",       "250",
                     "250", "0",    "0",   "0",         "0",
@@ -39,12 +44,12 @@ inline std::string LineaDeclarado() {
       DeclaranteLinea("12345678Z"), "E");
 }
 
-inline std::string LineaArrendamiento() {
-  return Export2014::GenerarReg3(
-             2014,
-             Buffer({"1", "20", "", "X2482300W", "Kowalski, Jan", "1800000", "Donostia",
-                     "9872023VH5797S0001WX", "CL", "Easo", "21", "", "", "", "20"}),
-             DeclaranteLinea("12345678Z"), "E")
+inline std::string LineaArrendamiento(int32_t year = 2014) {
+  return fileformat::WritersFor(year)
+      .GenerarReg3(year,
+                   Buffer({"1", "20", "", "X2482300W", "Kowalski, Jan", "1800000", "Donostia",
+                           "9872023VH5797S0001WX", "CL", "Easo", "21", "", "", "", "20"}),
+                   DeclaranteLinea("12345678Z"), "E")
       .AsString();
 }
 
