@@ -24,7 +24,7 @@ using nlohmann::json;
 
 constexpr const char* kUsage =
     "usage: zerbal import --dir DIR [--years MIN-MAX] [--encoding windows-1252|utf-8]\n"
-    "                     [--declaration CODE [--only operations|rentals|both]]\n"
+    "                     [--state] [--declaration CODE [--only operations|rentals|both]]\n"
     "                     [--lang es|eu] [--json] FILE\n"
     "\n"
     "Imports the declaration file FILE into DIR/347mod.db, line by line: each\n"
@@ -35,6 +35,9 @@ constexpr const char* kUsage =
     "\n"
     "Declarations of years outside --years (default 2002 to this year) are\n"
     "imported with error 44. The file is Windows-1252 unless --encoding utf-8.\n"
+    "Files of every year from 2002 on are taken, in the treasury's layout or,\n"
+    "with --state, in the state agency's (each line converted first); a file\n"
+    "that does not look like the layout asked for is not imported.\n"
     "Every line not stored is reported with its errors, in Spanish or, with\n"
     "--lang eu, in Basque; --json writes one JSON object per line instead.\n"
     "\n"
@@ -110,6 +113,8 @@ bool Parse(const Args& args, Command& c) {
     const std::string& a = args[i];
     if (a == "--json") {
       c.json = true;
+    } else if (a == "--state") {
+      c.options.state = true;
     } else if (a.starts_with("--")) {
       if (i + 1 >= args.size() || seen.count(a) || !Apply(a, args[i + 1], c)) return false;
       seen[a] = args[++i];

@@ -64,9 +64,9 @@ class Importer {
     Variant valores, errores;
     try {
       if (o_.declaration) {
-        imp_.importOpeArr(line, valores, errores, false, o_.only);
+        imp_.importOpeArr(line, valores, errores, o_.state, o_.only);
       } else {
-        imp_.importSpte(line, errores, false);
+        imp_.importSpte(line, errores, o_.state, o_.file.string());
       }
     } catch (const Error& e) {
       if (StopsImport(e.Number())) throw;
@@ -147,6 +147,32 @@ void Tally(const LineOutcome& out, bool whole_declarations, ImportSummary& s) {
   }
 }
 
+// The file's lines as the import reads them: UTF-8, without a byte order
+// mark.
+template <typename Each>
+void ForEachLine(std::istream& in, bool utf8, Each each) {
+  LineReader reader(in);
+  std::string raw;
+  for (int64_t number = 1; reader.Next(raw); ++number) {
+    if (number == 1 && utf8 && raw.starts_with(kBom)) raw.erase(0, kBom.size());
+    std::string line = utf8 ? raw : Windows1252ToUtf8(raw);
+    each(number, line, reader.TooLong());
+  }
+}
+
+void CheckLayout(const ImportOptions& o) {
+  const FileLayout layout = LayoutOf(o.file, o.utf8);
+  if (layout == FileLayout::kEmpty || (layout == FileLayout::kState) == o.state) return;
+  const std::string name = o.file.string();
+  throw ImportStopped(
+      o.state ? name + " does not look like a file in the state agency's layout (it has a "
+                       "presenter record, or no \"D\" or \"I\" at position 76 of its "
+                       "type-2 lines); without --state it is imported in the treasury's layout"
+              : name + " looks like a file in the state agency's layout (no presenter record, "
+                       "\"D\" or \"I\" at position 76 of its type-2 lines); --state imports it",
+      {}, 0);
+}
+
 void CheckDatabase(const fs::path& path, const char* what) {
   if (!fs::is_regular_file(path)) {
     throw ImportStopped("there is no " + std::string(what) + " database at " + path.string(), {},
@@ -155,6 +181,23 @@ void CheckDatabase(const fs::path& path, const char* what) {
 }
 
 }  // namespace
+
+FileLayout LayoutOf(const fs::path& file, bool utf8) {
+  std::ifstream in(file, std::ios::binary);
+  bool presenter = false;
+  int64_t lines = 0, items = 0, marked = 0;
+  ForEachLine(in, utf8, [&](int64_t number, const std::string& line, bool) {
+    ++lines;
+    if (number == 1) presenter = FirstChar(line) == "0";
+    if (FirstChar(line) != "2") return;
+    ++items;
+    const std::string kind = UCase(Mid(line, 76, 1));
+    marked += kind == "D" || kind == "I";
+  });
+  if (lines == 0) return FileLayout::kEmpty;
+  const bool most_marked = items == 0 || 2 * marked > items;
+  return !presenter && most_marked ? FileLayout::kState : FileLayout::kTreasury;
+}
 
 int64_t CountLines(const fs::path& file) {
   std::ifstream in(file, std::ios::binary);
@@ -173,6 +216,7 @@ ImportSummary ImportFile(const ImportOptions& o,
   if (fs::is_directory(o.file) || !in) {
     throw ImportStopped("cannot read " + o.file.string(), {}, 0);
   }
+  CheckLayout(o);
   ImportSummary summary;
   Importer importer(o);
   if (o.declaration) {
@@ -186,21 +230,17 @@ ImportSummary ImportFile(const ImportOptions& o,
                           summary, 0);
     }
   }
-  LineReader reader(in);
-  std::string raw, line;
-  for (int64_t number = 1; reader.Next(raw); ++number) {
-    if (number == 1 && o.utf8 && raw.starts_with(kBom)) raw.erase(0, kBom.size());
-    line = o.utf8 ? raw : Windows1252ToUtf8(raw);
+  ForEachLine(in, o.utf8, [&](int64_t number, std::string& line, bool too_long) {
     LineOutcome out;
     try {
-      out = importer.Import(number, line, reader.TooLong());
+      out = importer.Import(number, line, too_long);
     } catch (const Error& e) {
       throw ImportStopped(e.Description() + " (error " + std::to_string(e.Number()) + ")",
                           summary, number);
     }
     Tally(out, !o.declaration, summary);
     if (each) each(out);
-  }
+  });
   return summary;
 }
 

@@ -22,6 +22,9 @@ struct ImportOptions {
   std::filesystem::path lookup;  // the lookup database
   std::filesystem::path file;
   bool utf8 = false;
+  // The file is in the state agency's layout: every line is converted into
+  // the treasury's before it is checked.
+  bool state = false;
   int32_t year_min = 2002;
   int32_t year_max = 2002;
   // Adds the operation and rental lines to this existing declaration
@@ -82,8 +85,17 @@ class ImportStopped : public std::runtime_error {
 // Counts the lines of a file (for a progress line).
 int64_t CountLines(const std::filesystem::path& file);
 
+// Whether a file looks like the state agency's layout: its first line is
+// not a presenter record (the state layout has none), and most of its
+// type-2 lines, when it has any, hold "D" or "I" (either case) at position
+// 76, where a treasury record 2 holds a sign or a digit. An empty file
+// looks like neither.
+enum class FileLayout { kEmpty, kTreasury, kState };
+FileLayout LayoutOf(const std::filesystem::path& file, bool utf8);
+
 // Imports the file; `each` (when given) receives every line's outcome.
-// Raises ImportStopped.
+// Raises ImportStopped, before any line is imported when the file does not
+// look like the layout that `state` says.
 ImportSummary ImportFile(const ImportOptions& options,
                          const std::function<void(const LineOutcome&)>& each = {});
 

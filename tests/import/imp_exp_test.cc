@@ -3,8 +3,11 @@
 
 #include "zerbal/impexp.h"
 
+#include "base/text.h"
 #include "fileformat/linea_dte.h"
+#include "fileformat/linea_estatal.h"
 #include "lineas.h"
+#include "zerbal/databases.h"
 #include "zerbal/automation.h"
 #include "zerbal/declaraciones.h"
 #include "zerbal/declarante.h"
@@ -165,16 +168,149 @@ TEST_F(ImpExpTest, LinesThatCannotBelongToTheDeclaration) {
   EXPECT_EQ(Count("tOperadores") + Count("tArrendamientos"), 1);
 }
 
-TEST_F(ImpExpTest, EarlierYearsAndTheStateLayoutAreRefusedUntilTheirModulesExist) {
-  imp_.EjercicioMin(2002);
-  Spte(test::LineaDeclarante("12345678Z", 2012));
-  const std::string y2012 =
-      test::Set(test::LineaDeclarado(), kCamposReg2_2014, "ejercicio", "2012");
-  EXPECT_RAISES(Spte(y2012), errc::kInvalidProcedureCall);
+// lineas.h's declarant, operation and rental in the state layout of `year`.
+std::vector<std::string> LineasEstatales(int32_t year) {
+  std::map<std::string, std::string> operation = {
+      {"dni_cifd", "12345678Z"}, {"nifo", "54362315K"}, {"razon", "Goikoetxea Larrañaga, Ane"},
+      {"provo", "20"},           {"claveopo", "A"},     {"importe", "1000"}};
+  if (year >= 2011) {
+    for (const char* q : {"impopet1", "impopet2", "impopet3", "impopet4"}) operation[q] = "250";
+  }
+  return {test::LineaEstatal(year, '1', {{"dni_cifd", "12345678Z"},
+                                         {"nombred", "Iturri Ibáñez, Miren"}}),
+          test::LineaEstatal(year, 'D', operation),
+          test::LineaEstatal(year, 'I',
+                             {{"dni_cifd", "12345678Z"}, {"nifa", "X2482300W"},
+                              {"razon", "Kowalski, Jan"}, {"importe", "1800000"},
+                              {"provi", "20"}, {"municipioa", "Donostia"},
+                              {"refcat", "9872023VH5797S0001WX"}, {"viaa", "CL"},
+                              {"domicilioa", "Easo"}, {"numeroa", "21"}})};
+}
+
+// Both sides of each boundary of the declaration's year (the validators)
+// and of the line's year (the converters): a state line is converted by the
+// module of its year, validated by the module of its declaration's, and
+// stored as the treasury's line of the same data is.
+TEST_F(ImpExpTest, StateLinesOfEveryPeriodStoreTheRowsOfTheTreasurysLines) {
+  const struct {
+    int32_t year;
+    int64_t operation_length, premises_length;  // as the year's converter writes them
+  } rows[] = {{2007, 249, 250}, {2008, 279, 250}, {2010, 279, 250},
+              {2011, 500, 250}, {2013, 500, 250}, {2014, 500, 500}};
+  const auto stored = [](const DatabasePaths& paths) {
+    Rows all;
+    for (const char* table : {"TDeclarante", "TDeclaraciones", "tOperadores", "tArrendamientos"}) {
+      for (auto& row : test::Rows(paths.data.string(), std::string("SELECT * FROM ") + table)) {
+        all.push_back(std::move(row));
+      }
+    }
+    return all;
+  };
+  for (const auto& row : rows) {
+    const std::string y = std::to_string(row.year);
+    const std::vector<std::string> treasury = {test::LineaDeclarante("12345678Z", row.year),
+                                               test::LineaDeclarado(row.year),
+                                               test::LineaArrendamiento(row.year)};
+    const std::vector<std::string> state = LineasEstatales(row.year);
+    const int64_t lengths[] = {348, row.operation_length, row.premises_length};
+    Rows rows_of[2];
+    for (bool estatal : {false, true}) {
+      const DatabasePaths paths = CreateDatabases(dir_ / (y + (estatal ? "s" : "t")));
+      cImpExp imp;
+      imp.mdbmod(paths.data.string());
+      imp.mdblec(paths.lookup.string());
+      imp.EjercicioMin(2002);
+      imp.EjercicioMax(2014);
+      const std::vector<std::string>& lines = estatal ? state : treasury;
+      for (size_t k = 0; k < lines.size(); ++k) {
+        std::string line = lines[k];
+        Variant errores;
+        imp.importSpte(line, errores, estatal);
+        const Outcome expected{k == 0 ? 1 : static_cast<int>(k) + 2, 0, {}};
+        EXPECT_EQ((Outcome{imp.Sujeto(), imp.Resultado(), test::ErrorList(errores)}), expected)
+            << y << (estatal ? " state" : " treasury") << " line " << k + 1;
+        if (estatal) {
+          EXPECT_EQ(Len(line), lengths[k]) << y << ": the converted line comes back";
+        }
+      }
+      rows_of[estatal] = stored(paths);
+    }
+    EXPECT_EQ(rows_of[1], rows_of[0]) << y;
+  }
+}
+
+TEST_F(ImpExpTest, StateLinesThatConvertBadlyStoreNothing) {
+  std::string declarant = LineasEstatales(2014)[0];
   Variant errores;
-  std::string line = test::LineaDeclarado();
-  EXPECT_RAISES(imp_.importSpte(line, errores, true), errc::kInvalidProcedureCall);
-  EXPECT_EQ(Count("tOperadores"), 0);
+  imp_.importSpte(declarant, errores, true);
+  const std::string operation = LineasEstatales(2014)[1];
+  const std::string nuls(120, '\0');
+  const struct {
+    const char* name;
+    std::string line;
+    Outcome outcome;
+  } rows[] = {
+      {"lower-case d at 76", test::Poner(operation, 76, "d"), {5, 0, {}}},
+      {"cut before 76", Left(operation, 75), {5, 0, {}}},
+      {"type 3 in the state layout", test::Poner(operation, 1, "3"), {5, 0, {}}},
+      {"cut after 76: the rest reads as blanks and zeros", Left(operation, 76),
+       {3, 3, {{17, ""}, {20, "  "}, {4, "  "}, {4, ""}, {55, ""}}}},
+      {"NULs in the name", test::Poner(operation, 36, nuls.substr(0, 3)),
+       {3, 6, {{47, std::string(1, '\0')}}}},
+      {"a character outside the table", test::Poner(operation, 36, "è"), {3, 6, {{47, "è"}}}},
+      {"a line of NULs with D at 76", test::Poner(test::Poner("2" + nuls, 5, "2014"), 76, "D"),
+       {3, 6, {{47, std::string(1, '\0')}}}},
+  };
+  for (const auto& row : rows) {
+    imp_.Resultado(0);
+    std::string line = row.line;
+    Variant found;
+    imp_.importSpte(line, found, true);
+    EXPECT_EQ((Outcome{imp_.Sujeto(), imp_.Resultado(),
+                       found.IsArray() ? test::ErrorList(found) : Errors{}}),
+              row.outcome)
+        << row.name;
+  }
+  EXPECT_EQ(Count("tOperadores") + Count("tArrendamientos"), 0);
+}
+
+// What an operation and a rental line of each period leave in their rows:
+// a 2006 file in pesetas (its declarant record says "P" at 180) is stored
+// in euro cents, the country as a numeric code and the premises' province
+// as prova; from 2008 the cash amount and the transfers, from 2011 the
+// quarters.
+TEST_F(ImpExpTest, StoredRowsOfEachPeriod) {
+  const struct {
+    int32_t year;
+    const char* nif;  // a new declarant each: Convertir is set for new ones
+    std::vector<test::Change> declarant, operation, rental;
+    Rows operations, rentals;
+  } rows[] = {
+      {2006, "12345678Z", {{"E", "P"}}, {{"importe", "000000000166386"}}, {{"importe", "000000000332772"}},
+       {{"000", 100000.0, 0.0, 0.0, 0.0}}, {{"000", 20, 200000.0}}},
+      {2009, "B20456786", {}, {{"impmet", "000000000000500"}, {"impinm", "000000000000700"}}, {},
+       {{" ", 1000.0, 500.0, 700.0, 0.0}}, {{"", 20, 1800000.0}}},
+      {2012, "B64717838", {}, {{"impinm", " 000000000000700"}, {"impmobt4", " 000000000000700"}}, {},
+       {{" ", 1000.0, 0.0, 700.0, 250.0}}, {{"", 20, 1800000.0}}},
+  };
+  for (const auto& row : rows) {
+    test::Exec(mod_, "DELETE FROM tOperadores; DELETE FROM tArrendamientos");
+    const std::string declarant = test::Changed(
+        test::LineaDeclarante(row.nif, row.year), fileformat::kCamposReg1_2007, row.declarant);
+    ASSERT_EQ(Spte(declarant), (Outcome{1, 0, {}})) << row.year;
+    EXPECT_EQ(imp_.Convertir(), !row.declarant.empty()) << row.year;
+    EXPECT_EQ(Spte(test::Changed(test::LineaDeclarado(row.year), test::Campos(row.year, true), row.operation)),
+              (Outcome{3, 0, {}}))
+        << row.year;
+    EXPECT_EQ(Spte(test::Changed(test::LineaArrendamiento(row.year), test::Campos(row.year, false), row.rental)),
+              (Outcome{4, 0, {}}))
+        << row.year;
+    EXPECT_EQ(test::Rows(mod_, "SELECT paiso, importe, impmet, impinm, impopeT4 FROM tOperadores"),
+              row.operations)
+        << row.year;
+    EXPECT_EQ(test::Rows(mod_, "SELECT paiso, prova, importe FROM tArrendamientos"), row.rentals)
+        << row.year;
+  }
 }
 
 TEST_F(ImpExpTest, CurrencyAndKindsOfAnExistingDeclaration) {

@@ -26,12 +26,6 @@ struct Row {
   Errors errors;
 };
 
-std::span<const Field> Campos(int32_t year, bool operation) {
-  if (year >= 2011) return operation ? std::span<const Field>(kCamposReg2_2014) : kCamposReg3_2011;
-  if (year >= 2008) return operation ? std::span<const Field>(kCamposReg2_2008) : kCamposReg3_2008;
-  return operation ? std::span<const Field>(kCamposReg2_2007) : kCamposReg3_2007;
-}
-
 const std::string kQ0 = " 000000000000000";
 const std::string kMinus = "-00000000001000";
 const std::string kBlank15(15, ' ');
@@ -42,7 +36,7 @@ class ImportacionAnterioresTest : public test::DatabaseTest {
   Errors Check(const Row& row, bool operation) {
     const std::string line = test::Changed(
         operation ? test::LineaDeclarado(row.year) : test::LineaArrendamiento(row.year),
-        Campos(row.year, operation), row.changes);
+        test::Campos(row.year, operation), row.changes);
     const Importacion::Par& par = operation ? Importacion::ParDeclarados(row.year)
                                             : Importacion::ParArrendamientos(row.year);
     bool convertir = false;

@@ -53,6 +53,19 @@ inline std::string LineaArrendamiento(int32_t year = 2014) {
       .AsString();
 }
 
+// The layout fields of an operation (record 2) or rental (record 3) line of
+// `year`.
+inline std::span<const fileformat::Field> Campos(int32_t year, bool operation) {
+  using Fields = std::span<const fileformat::Field>;
+  if (year >= 2011) {
+    return operation ? Fields(fileformat::kCamposReg2_2014) : Fields(fileformat::kCamposReg3_2011);
+  }
+  if (year >= 2008) {
+    return operation ? Fields(fileformat::kCamposReg2_2008) : Fields(fileformat::kCamposReg3_2008);
+  }
+  return operation ? Fields(fileformat::kCamposReg2_2007) : Fields(fileformat::kCamposReg3_2007);
+}
+
 // The line with layout field `name` of `fields` replaced by `value`, padded
 // with blanks to the field's width.
 inline std::string Set(const std::string& line, std::span<const fileformat::Field> fields,
