@@ -162,7 +162,7 @@ void ForEachLine(std::istream& in, bool utf8, Each each) {
 
 void CheckLayout(const ImportOptions& o) {
   const FileLayout layout = LayoutOf(o.file, o.utf8);
-  if (layout == FileLayout::kEmpty || (layout == FileLayout::kState) == o.state) return;
+  if (layout == FileLayout::kEither || (layout == FileLayout::kState) == o.state) return;
   const std::string name = o.file.string();
   throw ImportStopped(
       o.state ? name + " does not look like a file in the state agency's layout (it has a "
@@ -185,18 +185,16 @@ void CheckDatabase(const fs::path& path, const char* what) {
 FileLayout LayoutOf(const fs::path& file, bool utf8) {
   std::ifstream in(file, std::ios::binary);
   bool presenter = false;
-  int64_t lines = 0, items = 0, marked = 0;
+  int64_t items = 0, marked = 0;
   ForEachLine(in, utf8, [&](int64_t number, const std::string& line, bool) {
-    ++lines;
     if (number == 1) presenter = FirstChar(line) == "0";
     if (FirstChar(line) != "2") return;
     ++items;
     const std::string kind = UCase(Mid(line, 76, 1));
     marked += kind == "D" || kind == "I";
   });
-  if (lines == 0) return FileLayout::kEmpty;
-  const bool most_marked = items == 0 || 2 * marked > items;
-  return !presenter && most_marked ? FileLayout::kState : FileLayout::kTreasury;
+  if (items == 0) return FileLayout::kEither;
+  return !presenter && 2 * marked > items ? FileLayout::kState : FileLayout::kTreasury;
 }
 
 int64_t CountLines(const fs::path& file) {

@@ -87,10 +87,10 @@ int64_t CountLines(const std::filesystem::path& file);
 
 // Whether a file looks like the state agency's layout: its first line is
 // not a presenter record (the state layout has none), and most of its
-// type-2 lines, when it has any, hold "D" or "I" (either case) at position
-// 76, where a treasury record 2 holds a sign or a digit. An empty file
-// looks like neither.
-enum class FileLayout { kEmpty, kTreasury, kState };
+// type-2 lines hold "D" or "I" (either case) at position 76, where a
+// treasury record 2 holds a sign or a digit. A file without type-2 lines
+// gives nothing to judge by, and is imported as asked.
+enum class FileLayout { kEither, kTreasury, kState };
 FileLayout LayoutOf(const std::filesystem::path& file, bool utf8);
 
 // Imports the file; `each` (when given) receives every line's outcome.

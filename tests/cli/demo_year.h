@@ -16,8 +16,10 @@
 namespace zerbal::test {
 
 // Before 2011 the operation with a negative amount is left out: the
-// unsigned layouts have no place for it.
-inline void FillDemoYear(const std::string& data, int32_t year, bool presenter) {
+// unsigned layouts have no place for it. `currency` "P": the amounts are
+// taken as pesetas.
+inline void FillDemoYear(const std::string& data, int32_t year, bool presenter,
+                         const std::string& currency = "E") {
   cDeclarante declarante;
   cDeclaraciones declaraciones;
   cDeclarado declarado;
@@ -28,7 +30,7 @@ inline void FillDemoYear(const std::string& data, int32_t year, bool presenter) 
   }
   for (const cli::DemoDeclarant& d : cli::SampleDeclarants()) {
     const int32_t declaration = declaraciones.GuardarDeclaracion(
-        year, "E", declarante.GuardarDeclarante(cli::DeclarantBuffer(d)));
+        year, currency, declarante.GuardarDeclarante(cli::DeclarantBuffer(d)));
     for (const cli::DemoOperation& op : d.operations) {
       if (year < 2011 && op.amount < 0) continue;
       declarado.GuardarDeclarado(cli::OperationBuffer(declaration, year, op));

@@ -17,6 +17,7 @@
 #include "cli/import_texts.h"
 #include "data/buffers.h"
 #include "demo_year.h"
+#include "fileformat/linea_estatal.h"
 #include "import/errores.h"
 #include "import/lineas.h"
 #include "testutil.h"
@@ -58,10 +59,12 @@ void SavePresenter(const fs::path& data) {
   p.GuardarPresentador(SamplePresenter());
 }
 
-fs::path Export(const fs::path& data, const fs::path& out) {
+fs::path Export(const fs::path& data, const fs::path& out, int32_t year = 2014,
+               const std::string& currency = "E") {
   ExportOptions o;
   o.data = data;
-  o.year = 2014;
+  o.year = year;
+  o.currency = currency;
   o.out = out;
   ExportYear(o);
   return out;
@@ -80,39 +83,49 @@ std::vector<std::string> Comparable(const std::string& file) {
   return lines;
 }
 
-TEST(ImportFileTest, TheDemoYearComesBackAsItWasExportedBarWhatTheImportRefuses) {
-  test::TempDir dir;
-  const DatabasePaths a = CreateDatabases(dir / "a");
-  test::FillDemoYear(a.data.string(), 2014, true);
-  const fs::path file = Export(a.data, dir / "347_2014.txt");
-  const DatabasePaths b = CreateDatabases(dir / "b");
-  SavePresenter(b.data);
+// A file of each period, 2006 from a declaration in pesetas (its file is in
+// euros, and so is the declaration the import makes of it).
+TEST(ImportFileTest, AYearOfEachPeriodComesBackAsItWasExportedBarWhatTheImportRefuses) {
+  const struct {
+    int32_t year;
+    const char* currency;
+  } rows[] = {{2014, "E"}, {2012, "E"}, {2009, "E"}, {2006, "P"}};
+  for (const auto& row : rows) {
+    const std::string y = std::to_string(row.year);
+    test::TempDir dir;
+    const DatabasePaths a = CreateDatabases(dir / "a");
+    test::FillDemoYear(a.data.string(), row.year, true, row.currency);
+    const fs::path file = Export(a.data, dir / "347.txt", row.year, row.currency);
+    const DatabasePaths b = CreateDatabases(dir / "b");
+    SavePresenter(b.data);
 
-  const Result run = Import({"--dir", (dir / "b").string(), "--json", file.string()});
-  EXPECT_EQ(run.status, 3) << run.err;
-  std::istringstream json(run.out);
-  std::vector<std::string> lines;
-  std::istringstream content(Read(file));
-  for (std::string line; std::getline(content, line);) lines.push_back(Windows1252ToUtf8(line));
-  int refused = 0;
-  for (std::string object; std::getline(json, object);) {
-    const nlohmann::json outcome = nlohmann::json::parse(object);
-    if (outcome.contains("summary")) break;
-    if (outcome["outcome"] != "refused") continue;
-    // Refused only for a character outside the table, as the checks say.
-    ++refused;
-    const std::string& line = lines[outcome["line"].get<int>() - 1];
-    ASSERT_EQ(outcome["errors"][0]["number"], 47) << line;
-    // What the import refused is taken out of the original to compare.
-    const std::string razon = General::SustituirComilla(Trim(Mid(line, 30, 40)));
-    test::Exec(a.data, "DELETE FROM tOperadores WHERE razon = '" + razon + "'");
+    const Result run = Import({"--dir", (dir / "b").string(), "--json", file.string()});
+    EXPECT_EQ(run.status, 3) << y << run.err;
+    std::istringstream json(run.out);
+    std::vector<std::string> lines;
+    std::istringstream content(Read(file));
+    for (std::string line; std::getline(content, line);) lines.push_back(Windows1252ToUtf8(line));
+    int refused = 0;
+    for (std::string object; std::getline(json, object);) {
+      const nlohmann::json outcome = nlohmann::json::parse(object);
+      if (outcome.contains("summary")) break;
+      if (outcome["outcome"] != "refused") continue;
+      // Refused only for a character outside the table, as the checks say.
+      ++refused;
+      const std::string& line = lines[outcome["line"].get<int>() - 1];
+      ASSERT_EQ(outcome["errors"][0]["number"], 47) << y << line;
+      // What the import refused is taken out of the original to compare.
+      const std::string razon = General::SustituirComilla(Trim(Mid(line, 30, 40)));
+      test::Exec(a.data, "DELETE FROM tOperadores WHERE razon = '" + razon + "'");
+    }
+    EXPECT_EQ(refused, 1) << y << ": Lumière's è is not in the table of allowed characters";
+
+    const std::string expected =
+        Read(Export(a.data, dir / "expected.txt", row.year, row.currency));
+    const std::string again = Read(Export(b.data, dir / "again.txt", row.year));
+    EXPECT_EQ(Comparable(again), Comparable(expected)) << y;
+    EXPECT_NE(expected, again) << y << ": the declarant's province is not carried over";
   }
-  EXPECT_EQ(refused, 1) << "Lumière's è is not in the table of allowed characters";
-
-  const std::string expected = Read(Export(a.data, dir / "expected.txt"));
-  const std::string again = Read(Export(b.data, dir / "again.txt"));
-  EXPECT_EQ(Comparable(again), Comparable(expected));
-  EXPECT_NE(expected, again) << "the declarant's province is not carried over";
 }
 
 class ImportCommandTest : public test::DatabaseTest {
@@ -297,6 +310,91 @@ TEST_F(ImportCommandTest, AddingToAnExistingDeclaration) {
   EXPECT_EQ(Import({"--dir", Dir(), "--declaration", std::to_string(code), file}).status, 0);
   EXPECT_EQ(Count("tOperadores"), 1);
   EXPECT_EQ(Count("TDeclaraciones"), 1) << "the declarant line creates nothing";
+}
+
+// A 2012 file in the state agency's layout: a declarant, an operation, a
+// premises, then an operation with "d" at 76 and one without its key.
+std::string StateFile() {
+  std::map<std::string, std::string> operation = {
+      {"dni_cifd", "12345678Z"}, {"nifo", "54362315K"}, {"razon", "Goikoetxea, Ane"},
+      {"provo", "20"},           {"claveopo", "A"},     {"importe", "1000"}};
+  for (const char* q : {"impopet1", "impopet2", "impopet3", "impopet4"}) operation[q] = "250";
+  std::map<std::string, std::string> no_key = operation;
+  no_key["claveopo"] = "";
+  no_key["nifo"] = "B58378431";
+  const std::string lines[] = {
+      test::LineaEstatal(2012, '1', {{"dni_cifd", "12345678Z"}, {"nombred", "Iturri, Miren"}}),
+      test::LineaEstatal(2012, 'D', operation),
+      test::LineaEstatal(2012, 'I',
+                         {{"dni_cifd", "12345678Z"}, {"nifa", "X2482300W"},
+                          {"razon", "Kowalski, Jan"}, {"importe", "1800000"}, {"provi", "20"},
+                          {"municipioa", "Donostia"}, {"viaa", "CL"}, {"domicilioa", "Easo"},
+                          {"numeroa", "21"}}),
+      test::Poner(test::LineaEstatal(2012, 'D', operation), 76, "d"),
+      test::LineaEstatal(2012, 'D', no_key)};
+  std::string file;
+  for (const std::string& line : lines) file += Utf8ToWindows1252(line) + "\r\n";
+  return file;
+}
+
+TEST_F(ImportCommandTest, TheStateLayoutWithStateAndOnlyWithIt) {
+  const std::string state = File("state.txt", StateFile());
+  const std::string treasury = File("treasury.txt", DeclarantRecord() + "\n" + OperationRecord());
+  const struct {
+    const char* name;
+    Args args;
+    int status;
+    std::vector<const char*> says;
+  } rows[] = {
+      {"a state file without --state", {state}, 1,
+       {"looks like a file in the state agency's layout", "--state imports it"}},
+      {"a treasury file with --state", {"--state", treasury}, 1,
+       {"does not look like a file in the state agency's layout"}},
+      {"a state file with --state", {"--state", state}, 3,
+       {"línea 4, registro 2: tipo de registro desconocido\n",
+        "línea 5, registro 2: no grabada\n  17  Clave de operación en blanco\n",
+        "operaciones grabadas: 1", "arrendamientos grabados: 1", "líneas no grabadas: 2"}},
+      {"in Basque", {"--state", "--lang", "eu", state}, 3,
+       {"5. lerroa, 2 erregistroa: ez da gorde\n  17  Eragiketa gakoa hutsik\n"}},
+  };
+  for (const auto& row : rows) {
+    test::Exec(mod_, "DELETE FROM TDeclaraciones");
+    Args args = {"--dir", Dir(), "--years", "2002-2014"};
+    args.insert(args.end(), row.args.begin(), row.args.end());
+    const Result run = Import(args);
+    EXPECT_EQ(run.status, row.status) << row.name << "\n" << run.out << run.err;
+    for (const char* text : row.says) {
+      EXPECT_NE((run.out + run.err).find(text), std::string::npos)
+          << row.name << ": " << text << "\n" << run.out << run.err;
+    }
+  }
+  EXPECT_EQ(Count("tOperadores"), 2) << "only the state file, with --state, twice";
+}
+
+TEST(ImportFileTest, WhatLooksLikeTheStateLayout) {
+  test::TempDir dir;
+  const std::string presenter = "0347201420B20456786", declarant = test::LineaDeclarante();
+  const std::string operation = test::LineaDeclarado();
+  const std::string d = test::Poner(operation, 76, "D"), i = test::Poner(operation, 76, "i");
+  const struct {
+    const char* name;
+    std::vector<std::string> lines;
+    FileLayout layout;
+  } rows[] = {
+      {"empty", {}, FileLayout::kEither},
+      {"declarants alone: nothing to judge by", {declarant}, FileLayout::kEither},
+      {"a treasury file", {presenter, declarant, operation}, FileLayout::kTreasury},
+      {"no presenter record", {declarant, operation}, FileLayout::kTreasury},
+      {"D or I at 76, either case", {declarant, d, i}, FileLayout::kState},
+      {"a presenter record first", {presenter, declarant, d}, FileLayout::kTreasury},
+      {"half the type-2 lines are not most", {declarant, d, operation}, FileLayout::kTreasury},
+  };
+  for (const auto& row : rows) {
+    std::string bytes;
+    for (const std::string& line : row.lines) bytes += Utf8ToWindows1252(line) + "\r\n";
+    Write(dir / "f.txt", bytes);
+    EXPECT_EQ(LayoutOf(dir / "f.txt", false), row.layout) << row.name;
+  }
 }
 
 TEST(ImportTextsTest, EveryNumberTheChecksRecordHasItsTextInBothLanguages) {
