@@ -4,9 +4,11 @@
 // inserted with raw prepared SQLite statements, on a connection of the same
 // engine settings, one transaction a row as the import commits them.
 //
-// The file: 300 declarants of 2014 with 100,000 operations and 1,000 rentals
-// (101,301 lines with record 0), written by the export's own record writers.
-// The smaller sizes are its first lines.
+// The file: 300 declarants with 100,000 operations and 1,000 rentals, three
+// times: of 2014 and of 2012 (101,301 lines with record 0), written by the
+// export's own record writers of the year, and of 2014 in the state
+// agency's layout (101,300 lines, no record 0), imported with --state. The
+// smaller sizes are their first lines.
 
 #include <benchmark/benchmark.h>
 #include <stdlib.h>
@@ -14,6 +16,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -21,7 +24,8 @@
 #include "cli/demo_data.h"
 #include "cli/import_file.h"
 #include "data/engine.h"
-#include "fileformat/export2014.h"
+#include "fileformat/seleccion.h"
+#include "tests/fileformat/campos_estatales.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::cli {
@@ -93,39 +97,69 @@ Variant RentalBuffer(const Rental& r) {
                  "9872023VH5797S0001WX", "CL", "Easo", "21", "", "", "", "20"});
 }
 
-// Writes the file once, in Windows-1252 with CR LF, as `zerbal export` does.
-fs::path MakeFile(const fs::path& dir, const std::vector<Declarant>& data) {
-  const fs::path file = dir / "347_2014.txt";
+// Writes a file once, in Windows-1252 with CR LF, as `zerbal export` does.
+fs::path MakeFile(const fs::path& dir, const std::vector<Declarant>& data, int32_t year) {
+  const fileformat::YearWriters& w = fileformat::WritersFor(year);
+  const fs::path file = dir / ("347_" + std::to_string(year) + ".txt");
   std::ofstream out(file, std::ios::binary);
-  out << Export2014::GenerarReg0(SamplePresenter(), kDeclarants, kOperations + kRentals, 2014)
-      << "\r\n";
+  out << w.GenerarReg0(SamplePresenter(), kDeclarants, kOperations + kRentals, year) << "\r\n";
   for (const Declarant& d : data) {
     const Variant declarant = DeclarantBuffer(d);
-    out << Utf8ToWindows1252(Export2014::GenerarReg1(declarant, Variant::Null(), "E", 2014))
-        << "\r\n";
+    out << Utf8ToWindows1252(w.GenerarReg1(declarant, Variant::Null(), "E", year)) << "\r\n";
     for (const Operation& op : d.operations) {
-      out << Utf8ToWindows1252(Export2014::GenerarReg2(2014, OperationBuffer(op), declarant, "E"))
+      out << Utf8ToWindows1252(w.GenerarReg2(year, OperationBuffer(op), declarant, "E"))
           << "\r\n";
     }
     for (const Rental& r : d.rentals) {
-      out << Utf8ToWindows1252(
-                 Export2014::GenerarReg3(2014, RentalBuffer(r), declarant, "E").AsString())
+      out << Utf8ToWindows1252(w.GenerarReg3(year, RentalBuffer(r), declarant, "E").AsString())
           << "\r\n";
     }
   }
   return file;
 }
 
+// The same rows of 2014 in the state agency's layout.
+fs::path MakeStateFile(const fs::path& dir, const std::vector<Declarant>& data) {
+  const fs::path file = dir / "347_2014_estatal.txt";
+  std::ofstream out(file, std::ios::binary);
+  std::vector<std::string> unknown;
+  const auto line = [&](char record, const std::map<std::string, std::string>& values) {
+    out << Utf8ToWindows1252(test::EscribirLineaEstatal(2014, record, values, unknown)) << "\r\n";
+  };
+  for (const Declarant& d : data) {
+    line('1', {{"dni_cifd", d.nif}, {"nombred", d.name}});
+    for (const Operation& op : d.operations) {
+      const std::string quarter = std::to_string(op.amount / 4);
+      line('D', {{"dni_cifd", d.nif}, {"nifo", op.nif}, {"razon", op.name}, {"provo", "20"},
+                 {"claveopo", op.key}, {"importe", std::to_string(op.amount)},
+                 {"impopet1", quarter}, {"impopet2", quarter}, {"impopet3", quarter},
+                 {"impopet4", quarter}});
+    }
+    for (const Rental& r : d.rentals) {
+      line('I', {{"dni_cifd", d.nif}, {"nifa", r.nif}, {"razon", r.name},
+                 {"importe", std::to_string(r.amount)}, {"provi", "20"},
+                 {"municipioa", "Donostia"}, {"refcat", "9872023VH5797S0001WX"}, {"viaa", "CL"},
+                 {"domicilioa", "Easo"}, {"numeroa", "21"}});
+    }
+  }
+  if (!unknown.empty()) std::abort();
+  return file;
+}
+
+enum Kind { k2014, k2012, kState };
+
 struct Fixture {
   fs::path dir;
   std::vector<Declarant> data;
-  fs::path file;
+  fs::path files[3];
   Fixture() {
     std::string pattern = (fs::temp_directory_path() / "zerbal-bench-XXXXXX").string();
     if (::mkdtemp(pattern.data()) == nullptr) std::abort();
     dir = pattern;
     data = Data();
-    file = MakeFile(dir, data);
+    files[k2014] = MakeFile(dir, data, 2014);
+    files[k2012] = MakeFile(dir, data, 2012);
+    files[kState] = MakeStateFile(dir, data);
   }
   ~Fixture() { fs::remove_all(dir); }
 };
@@ -135,11 +169,12 @@ Fixture& Shared() {
   return fixture;
 }
 
-// The first `lines` lines of the file, on their own.
-fs::path Prefix(int64_t lines) {
-  const fs::path out = Shared().dir / ("first_" + std::to_string(lines) + ".txt");
+// The first `lines` lines of a file, on their own.
+fs::path Prefix(Kind kind, int64_t lines) {
+  const fs::path out =
+      Shared().dir / ("first_" + std::to_string(kind) + "_" + std::to_string(lines) + ".txt");
   if (fs::exists(out)) return out;
-  std::ifstream in(Shared().file, std::ios::binary);
+  std::ifstream in(Shared().files[kind], std::ios::binary);
   std::ofstream copy(out, std::ios::binary);
   std::string line;
   for (int64_t k = 0; k < lines && std::getline(in, line); ++k) copy << line << "\n";
@@ -170,8 +205,8 @@ void Rates(benchmark::State& state, int64_t lines) {
       benchmark::Counter(n, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
-void BM_ImportFile(benchmark::State& state) {
-  const fs::path file = Prefix(state.range(0));
+void BM_ImportFile(benchmark::State& state, Kind kind) {
+  const fs::path file = Prefix(kind, state.range(0));
   int64_t lines = 0;
   for (auto _ : state) {
     state.PauseTiming();
@@ -180,6 +215,7 @@ void BM_ImportFile(benchmark::State& state) {
     options.data = paths.data;
     options.lookup = paths.lookup;
     options.file = file;
+    options.state = kind == kState;
     options.year_max = 2014;
     state.ResumeTiming();
     const ImportSummary s = ImportFile(options);
@@ -189,7 +225,9 @@ void BM_ImportFile(benchmark::State& state) {
   Rates(state, lines);
   state.counters["maxrss_MB"] = MaxRssMegabytes();
 }
-BENCHMARK(BM_ImportFile)->Apply(Sizes);
+BENCHMARK_CAPTURE(BM_ImportFile, 2014, k2014)->Apply(Sizes);
+BENCHMARK_CAPTURE(BM_ImportFile, 2012, k2012)->Apply(Sizes);
+BENCHMARK_CAPTURE(BM_ImportFile, state_2014, kState)->Apply(Sizes);
 
 // The baseline: every row of the file inserted with prepared statements.
 class Raw {

@@ -12,15 +12,21 @@
 
 namespace zerbal::Importacion {
 
+// Fields 1 to 10 in every period: the head, the key and the party.
+constexpr std::array<Corte, 10> CortesParte(std::span<const fileformat::Field> c) {
+  return {
+      Cortado("Modelo", c, "347"),        Cortado("Ejercicio", c, "ejercicio"),
+      Cortado("CodProv", c, "cod"),       Cortado("NIF", c, "dni_cifd"),
+      Cortado("ClaveOpe", c, "claveopo"), Cortado("NIF", c, "nifo"),
+      Cortado("Nombre", c, "razon"),      Cortado("ClaveRep", c, "claverep"),
+      Cortado("Prov", c, "provo"),        Cortado("Pais", c, "paiso"),
+  };
+}
+
 // Record 2 of 2011 on: declarations of 2011 to 2013 take the first 24
 // fields (up to the quarters), those of 2014 on all 30.
-constexpr std::array<Corte, 30> CortesDeclarado(std::span<const fileformat::Field> c) {
-  return {
-      Cortado("Modelo", c, "347"),          Cortado("Ejercicio", c, "ejercicio"),
-      Cortado("CodProv", c, "cod"),         Cortado("NIF", c, "dni_cifd"),
-      Cortado("ClaveOpe", c, "claveopo"),   Cortado("NIF", c, "nifo"),
-      Cortado("Nombre", c, "razon"),        Cortado("ClaveRep", c, "claverep"),
-      Cortado("Prov", c, "provo"),          Cortado("Pais", c, "paiso"),
+constexpr auto CortesDeclarado(std::span<const fileformat::Field> c) {
+  return fileformat::Join(CortesParte(c), std::array{
       Cortado("ImpOpe", c, "importe"),      Cortado("ClaveSeg", c, "opeseg"),
       Cortado("ClaveArr", c, "opearr"),     Cortado("ImpMet", c, "impmet"),
       Cortado("ImpTra", c, "impinm"),       Cortado("EjerMet", c, "ejerimpmet"),
@@ -31,23 +37,17 @@ constexpr std::array<Corte, 30> CortesDeclarado(std::span<const fileformat::Fiel
       Cortado("SigIntra", c, "siglaspaisintra"), Cortado("NifIntra", c, "nifpaisintra"),
       Cortado("OpeCaja", c, "opeivacaja"),  Cortado("OpeInve", c, "opeinvsujpas"),
       Cortado("OpeRegm", c, "operegposadu"), Cortado("ImpOpeCaja", c, "impanudevopecaj"),
-  };
+  });
 }
 inline constexpr auto kCortesDeclarado_2014 = CortesDeclarado(fileformat::kCamposReg2_2014);
 inline constexpr auto kCortesDeclarado_2011 = std::span(kCortesDeclarado_2014).first<24>();
 
 // Record 2 of 2010 and before: one amount (Importe) up to 2007; from 2008
 // the cash amount and the transfers (ImpInm) too.
-constexpr std::array<Corte, 13> CortesDeclaradoSinSigno(std::span<const fileformat::Field> c) {
-  return {
-      Cortado("Modelo", c, "347"),        Cortado("Ejercicio", c, "ejercicio"),
-      Cortado("CodProv", c, "cod"),       Cortado("NIF", c, "dni_cifd"),
-      Cortado("ClaveOpe", c, "claveopo"), Cortado("NIF", c, "nifo"),
-      Cortado("Nombre", c, "razon"),      Cortado("ClaveRep", c, "claverep"),
-      Cortado("Prov", c, "provo"),        Cortado("Pais", c, "paiso"),
-      Cortado("Importe", c, "importe"),   Cortado("ClaveSeg", c, "opeseg"),
-      Cortado("ClaveArr", c, "opearr"),
-  };
+constexpr auto CortesDeclaradoSinSigno(std::span<const fileformat::Field> c) {
+  return fileformat::Join(CortesParte(c), std::array{Cortado("Importe", c, "importe"),
+                                                     Cortado("ClaveSeg", c, "opeseg"),
+                                                     Cortado("ClaveArr", c, "opearr")});
 }
 inline constexpr auto kCortesDeclarado_2008 =
     fileformat::Join(CortesDeclaradoSinSigno(fileformat::kCamposReg2_2008),

@@ -369,6 +369,12 @@ TEST_F(ImportCommandTest, TheStateLayoutWithStateAndOnlyWithIt) {
     }
   }
   EXPECT_EQ(Count("tOperadores"), 2) << "only the state file, with --state, twice";
+
+  const std::string code = std::to_string(test::Rows(mod_, "SELECT coddecla FROM TDeclaraciones")[0][0].AsLong());
+  EXPECT_EQ(Import({"--dir", Dir(), "--state", "--declaration", code, "--only", "rentals", state})
+                .status,
+            3);
+  EXPECT_EQ(Count("tArrendamientos"), 3) << "added to an existing declaration";
 }
 
 TEST(ImportFileTest, WhatLooksLikeTheStateLayout) {
