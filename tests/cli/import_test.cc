@@ -17,7 +17,6 @@
 #include "cli/import_texts.h"
 #include "data/buffers.h"
 #include "demo_year.h"
-#include "fileformat/linea_estatal.h"
 #include "import/errores.h"
 #include "import/lineas.h"
 #include "testutil.h"
@@ -313,25 +312,11 @@ TEST_F(ImportCommandTest, AddingToAnExistingDeclaration) {
 }
 
 // A 2012 file in the state agency's layout: a declarant, an operation, a
-// premises, then an operation with "d" at 76 and one without its key.
+// premises, then the operation with "d" at 76 and without its key.
 std::string StateFile() {
-  std::map<std::string, std::string> operation = {
-      {"dni_cifd", "12345678Z"}, {"nifo", "54362315K"}, {"razon", "Goikoetxea, Ane"},
-      {"provo", "20"},           {"claveopo", "A"},     {"importe", "1000"}};
-  for (const char* q : {"impopet1", "impopet2", "impopet3", "impopet4"}) operation[q] = "250";
-  std::map<std::string, std::string> no_key = operation;
-  no_key["claveopo"] = "";
-  no_key["nifo"] = "B58378431";
-  const std::string lines[] = {
-      test::LineaEstatal(2012, '1', {{"dni_cifd", "12345678Z"}, {"nombred", "Iturri, Miren"}}),
-      test::LineaEstatal(2012, 'D', operation),
-      test::LineaEstatal(2012, 'I',
-                         {{"dni_cifd", "12345678Z"}, {"nifa", "X2482300W"},
-                          {"razon", "Kowalski, Jan"}, {"importe", "1800000"}, {"provi", "20"},
-                          {"municipioa", "Donostia"}, {"viaa", "CL"}, {"domicilioa", "Easo"},
-                          {"numeroa", "21"}}),
-      test::Poner(test::LineaEstatal(2012, 'D', operation), 76, "d"),
-      test::LineaEstatal(2012, 'D', no_key)};
+  std::vector<std::string> lines = test::LineasEstatales(2012);
+  lines.push_back(test::Poner(lines[1], 76, "d"));
+  lines.push_back(test::Poner(lines[1], 82, " "));
   std::string file;
   for (const std::string& line : lines) file += Utf8ToWindows1252(line) + "\r\n";
   return file;

@@ -1,11 +1,10 @@
 // The validators of the years before 2014, where they differ from the 2014
 // ones (whose every rule importacion_2014_test.cc checks): one row per
 // difference, a valid line of the year's layout changed by the row. Also
-// which module serves which year, and amounts in pesetas.
+// which module serves which year.
 
 #include "fileformat/layout_reg2.h"
 #include "fileformat/layout_reg3.h"
-#include "import/cortes.h"
 #include "import/importacion_2007.h"
 #include "import/importacion_2008.h"
 #include "import/importacion_2011.h"
@@ -52,7 +51,6 @@ TEST_F(ImportacionAnterioresTest, OperationLinesWhereTheyDifferFrom2014) {
     return a;
   };
   const std::vector<Row> rows = {
-      {"2012 valid", 2012, {}, {}},
       {"2012 sign X is not checked", 2012, {{"importe", "X000000000001000"}}, {}},
       {"2012 N is negative all the same", 2012, {{"importe", "N000000000001000"}}, {{53, ""}}},
       {"2012 declarant H: no 65, the quarters must add up", 2012,
@@ -65,19 +63,15 @@ TEST_F(ImportacionAnterioresTest, OperationLinesWhereTheyDifferFrom2014) {
        {{55, ""}}},
       {"2012 non-resident: no intra-community identifier", 2012,
        with(abroad, {{"paiso", "FR"}, {"siglaspaisintra", "FR"}, {"nifpaisintra", "X"}}), {}},
-      {"2009 valid", 2009, {}, {}},
       {"2009 minus sign: 36 and 37", 2009, {{"importe", kMinus}}, {{36, kMinus}, {37, kMinus}}},
       {"2009 blank: 36 and 41", 2009, {{"importe", ""}}, {{36, kBlank15}, {41, kBlank15}}},
       {"2009 cash amount negative", 2009, {{"impmet", kMinus}}, {{36, kMinus}, {37, kMinus}}},
-      {"2009 transfers blank", 2009, {{"impinm", ""}}, {{36, kBlank15}, {41, kBlank15}}},
       {"2009 every amount 0: no 55", 2009, {{"importe", "000000000000000"}}, {}},
       {"2009 non-resident", 2009, with(abroad, {{"paiso", "FR"}}), {}},
       {"2009 non-resident, unknown country", 2009, with(abroad, {{"paiso", "ZZ"}}),
        {{49, "ZZ "}}},
       {"2009 resident abroad", 2009, {{"paiso", "FR"}}, {{35, "FR "}}},
-      {"2006 valid (country 000)", 2006, {}, {}},
       {"2006 resident without a country", 2006, {{"paiso", ""}}, {}},
-      {"2006 minus sign", 2006, {{"importe", kMinus}}, {{36, kMinus}, {37, kMinus}}},
       {"2006 non-resident in France", 2006, with(abroad, {{"paiso", "001"}}), {}},
       {"2006 code left-justified", 2006, with(abroad, {{"paiso", "1"}}), {}},
       {"2006 unknown code: 27, no 49", 2006, with(abroad, {{"paiso", "999"}}), {{27, ""}}},
@@ -91,13 +85,9 @@ TEST_F(ImportacionAnterioresTest, OperationLinesWhereTheyDifferFrom2014) {
 
 TEST_F(ImportacionAnterioresTest, RentalLinesWhereTheyDifferFrom2014) {
   const std::vector<Row> rows = {
-      {"2012 valid", 2012, {}, {}},
       {"2012 minus sign: 36 and 37, no 56", 2012, {{"importe", kMinus}},
        {{36, kMinus}, {37, kMinus}}},
-      {"2012 blank: 36 and 41", 2012, {{"importe", ""}}, {{36, kBlank15}, {41, kBlank15}}},
-      {"2009 valid", 2009, {}, {}},
       {"2009 lessee blank: country OP", 2009, {{"nifa", ""}}, {}},
-      {"2006 valid", 2006, {}, {}},
       {"2006 municipality blank", 2006, {{"municipioa", ""}}, {{18, ""}}},
       {"2006 lessee blank, no country", 2006, {{"nifa", ""}}, {{27, ""}}},
       {"2006 lessee blank, in France", 2006, {{"nifa", ""}, {"000", "001"}}, {}},
@@ -128,73 +118,29 @@ TEST_F(ImportacionAnterioresTest, FailuresNotTheDataAreRaisedUnderTheValidatorsN
 }
 
 TEST(ModulosTest, TheDeclarationsYearChoosesTheModule) {
+  using namespace Importacion_2007;
+  using namespace Importacion_2008;
+  using Importacion_2011::ValidarDeclarado_2011;
+  using namespace Importacion_2014;
   using Validar = decltype(Importacion::Par::validar);
   const struct {
     int32_t year;
-    Validar operations;
-    Validar rentals;
-    int16_t limit;
+    Validar operations, rentals;
   } rows[] = {
-      {1990, Importacion_2007::ValidarDeclarado_2007, Importacion_2007::ValidarArrendamiento_2007,
-       164},
-      {2007, Importacion_2007::ValidarDeclarado_2007, Importacion_2007::ValidarArrendamiento_2007,
-       164},
-      {2008, Importacion_2008::ValidarDeclarado_2008, Importacion_2008::ValidarArrendamiento_2008,
-       164},
-      {2010, Importacion_2008::ValidarDeclarado_2008, Importacion_2008::ValidarArrendamiento_2008,
-       164},
-      {2011, Importacion_2011::ValidarDeclarado_2011, Importacion_2008::ValidarArrendamiento_2008,
-       500},
-      {2013, Importacion_2011::ValidarDeclarado_2011, Importacion_2008::ValidarArrendamiento_2008,
-       500},
-      {2014, Importacion_2014::ValidarDeclarado_2014,
-       Importacion_2014::ValidarArrendamiento_2014, 500},
-      {9999, Importacion_2014::ValidarDeclarado_2014,
-       Importacion_2014::ValidarArrendamiento_2014, 500},
+      {1990, ValidarDeclarado_2007, ValidarArrendamiento_2007},
+      {2007, ValidarDeclarado_2007, ValidarArrendamiento_2007},
+      {2008, ValidarDeclarado_2008, ValidarArrendamiento_2008},
+      {2010, ValidarDeclarado_2008, ValidarArrendamiento_2008},
+      {2011, ValidarDeclarado_2011, ValidarArrendamiento_2008},
+      {2013, ValidarDeclarado_2011, ValidarArrendamiento_2008},
+      {2014, ValidarDeclarado_2014, ValidarArrendamiento_2014},
+      {9999, ValidarDeclarado_2014, ValidarArrendamiento_2014},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(Importacion::ParDeclarados(row.year).validar, row.operations) << row.year;
-    EXPECT_EQ(Importacion::ParDeclarados(row.year).limite, row.limit) << row.year;
+    EXPECT_EQ(Importacion::ParDeclarados(row.year).limite, row.year < 2011 ? 164 : 500);
     EXPECT_EQ(Importacion::ParArrendamientos(row.year).validar, row.rentals) << row.year;
-    EXPECT_EQ(Importacion::ParArrendamientos(row.year).limite, 174) << row.year;
   }
-}
-
-TEST(PesetasTest, ConvertirReadsTheAmountAsPesetasAndGivesEuroCents) {
-  const struct {
-    std::string importe;
-    bool convertir;
-    std::string read;
-  } rows[] = {
-      {"000000000001000", true, "000000000000601"},   // 6.0101 euros
-      {"000000000166386", true, "000000000100000"},   // 1,000 euros exactly
-      {"000000000000083", true, "000000000000050"},   // 0.4988 rounds up to 0.50
-      {"000000000000000", true, "000000000000000"},
-      {"000000000001000", false, "000000000001000"},
-      {"-00000000001000", true, "-00000000001000"},   // not digits: left for 36 and 37
-      {"", true, "               "},
-  };
-  for (const auto& row : rows) {
-    bool convertir = row.convertir;
-    const std::string operation =
-        test::Set(test::LineaDeclarado(2009), kCamposReg2_2008, "importe", row.importe);
-    EXPECT_EQ(Importacion::Valor(Importacion_2008::LeerDeclarado_2008(operation, convertir),
-                                 "Importe"),
-              row.read)
-        << row.importe << " 2009 operation";
-    const std::string rental =
-        test::Set(test::LineaArrendamiento(2006), kCamposReg3_2007, "importe", row.importe);
-    EXPECT_EQ(Importacion::Valor(Importacion_2007::LeerArrendamiento_2007(rental, convertir),
-                                 "Importe"),
-              row.read)
-        << row.importe << " 2006 rental";
-  }
-  bool convertir = true;
-  const Variant ejercicio2009 = Importacion_2008::LeerDeclarado_2008(
-      test::Set(test::LineaDeclarado(2009), kCamposReg2_2008, "impmet", "000000000001000"),
-      convertir);
-  EXPECT_EQ(Importacion::Valor(ejercicio2009, "ImpMet"), "000000000001000")
-      << "the export never converts the cash amount, nor does the import";
 }
 
 }  // namespace

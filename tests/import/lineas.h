@@ -5,6 +5,7 @@
 #ifndef ZERBAL_TESTS_IMPORT_LINEAS_H_
 #define ZERBAL_TESTS_IMPORT_LINEAS_H_
 
+#include <map>
 #include <span>
 #include <string>
 #include <utility>
@@ -12,6 +13,7 @@
 
 #include "base/text.h"
 #include "fileformat/export2014.h"
+#include "fileformat/linea_estatal.h"
 #include "fileformat/seleccion.h"
 #include "fileformat/layout_reg1.h"
 #include "fileformat/layout_reg2.h"
@@ -51,6 +53,23 @@ inline std::string LineaArrendamiento(int32_t year = 2014) {
                            "9872023VH5797S0001WX", "CL", "Easo", "21", "", "", "", "20"}),
                    DeclaranteLinea("12345678Z"), "E")
       .AsString();
+}
+
+// The same declarant, operation and rental in the state layout of `year`.
+inline std::vector<std::string> LineasEstatales(int32_t year) {
+  std::map<std::string, std::string> operation = {
+      {"dni_cifd", "12345678Z"}, {"nifo", "54362315K"}, {"razon", "Goikoetxea Larrañaga, Ane"},
+      {"provo", "20"},           {"claveopo", "A"},     {"importe", "1000"}};
+  if (year >= 2011) {
+    for (const char* q : {"impopet1", "impopet2", "impopet3", "impopet4"}) operation[q] = "250";
+  }
+  return {LineaEstatal(year, '1', {{"dni_cifd", "12345678Z"}, {"nombred", "Iturri Ibáñez, Miren"}}),
+          LineaEstatal(year, 'D', operation),
+          LineaEstatal(year, 'I',
+                       {{"dni_cifd", "12345678Z"}, {"nifa", "X2482300W"}, {"razon", "Kowalski, Jan"},
+                        {"importe", "1800000"}, {"provi", "20"}, {"municipioa", "Donostia"},
+                        {"refcat", "9872023VH5797S0001WX"}, {"viaa", "CL"},
+                        {"domicilioa", "Easo"}, {"numeroa", "21"}})};
 }
 
 // The layout fields of an operation (record 2) or rental (record 3) line of
