@@ -25,9 +25,14 @@ class LineReader {
   bool TooLong() const { return too_long_; }
 
  private:
+  // Reads the next piece of the file into `chunk_`; false at its end.
+  bool Fill();
+
   std::streambuf& buf_;
   size_t max_bytes_;
   bool too_long_ = false;
+  std::string chunk_;  // read ahead from `buf_`, scanned from `pos_`
+  size_t pos_ = 0;
 };
 
 }  // namespace zerbal::cli

@@ -1,6 +1,7 @@
 #include "base/text.h"
 
 #include <array>
+#include <cstdint>
 #include <cstring>
 
 namespace zerbal {
@@ -10,7 +11,6 @@ constexpr char32_t kReplacement = 0xFFFD;
 
 bool IsContinuation(unsigned char b) { return (b & 0xC0) == 0x80; }
 
-// Byte offset of character `index` (0-based), or text.size() past the end.
 // Byte length of the character at `pos`: 1 for ASCII without decoding.
 size_t CharSize(std::string_view text, size_t pos) {
   if (static_cast<unsigned char>(text[pos]) < 0x80) return 1;
@@ -19,9 +19,34 @@ size_t CharSize(std::string_view text, size_t pos) {
   return size;
 }
 
+// Bytes from `pos` on that are ASCII (at most `max`), eight at a time where
+// they can be.
+size_t AsciiRun(std::string_view text, size_t pos, size_t max = SIZE_MAX) {
+  const size_t limit = max < text.size() - pos ? pos + max : text.size();
+  size_t end = pos;
+  for (; end + 8 <= limit; end += 8) {
+    uint64_t word;
+    std::memcpy(&word, text.data() + end, 8);
+    if (word & 0x8080808080808080ULL) break;
+  }
+  while (end < limit && static_cast<unsigned char>(text[end]) < 0x80) ++end;
+  return end - pos;
+}
+
+// Byte offset of character `index` (0-based), or text.size() past the end.
 size_t ByteOffset(std::string_view text, int64_t index) {
   size_t pos = 0;
-  for (int64_t k = 0; k < index && pos < text.size(); ++k) pos += CharSize(text, pos);
+  for (int64_t k = 0; k < index && pos < text.size();) {
+    // Runs of ASCII go by at once: one byte, one character.
+    const size_t ascii = AsciiRun(text, pos, static_cast<size_t>(index - k));
+    if (ascii > 0) {
+      pos += ascii;
+      k += static_cast<int64_t>(ascii);
+      continue;
+    }
+    pos += CharSize(text, pos);
+    ++k;
+  }
   return pos;
 }
 
@@ -80,17 +105,6 @@ void AppendUtf8(std::string* out, char32_t c) {
   }
 }
 
-// Bytes from `pos` on that are ASCII, eight at a time where they can be.
-size_t AsciiRun(std::string_view text, size_t pos) {
-  size_t end = pos;
-  for (; end + 8 <= text.size(); end += 8) {
-    uint64_t word;
-    std::memcpy(&word, text.data() + end, 8);
-    if (word & 0x8080808080808080ULL) break;
-  }
-  while (end < text.size() && static_cast<unsigned char>(text[end]) < 0x80) ++end;
-  return end - pos;
-}
 
 int64_t Len(std::string_view text) {
   int64_t n = 0;
@@ -221,7 +235,13 @@ std::string Utf8ToWindows1252(std::string_view utf8) {
 std::string Windows1252ToUtf8(std::string_view bytes) {
   std::string out;
   out.reserve(bytes.size() + bytes.size() / 8);
-  for (char ch : bytes) {
+  for (size_t pos = 0; pos < bytes.size();) {
+    if (const size_t ascii = AsciiRun(bytes, pos); ascii > 0) {
+      out.append(bytes.substr(pos, ascii));
+      pos += ascii;
+      continue;
+    }
+    const char ch = bytes[pos++];
     const auto b = static_cast<unsigned char>(ch);
     AppendUtf8(&out, (b >= 0x80 && b < 0xA0) ? kHighControls[b - 0x80] : char32_t{b});
   }

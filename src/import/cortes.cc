@@ -1,5 +1,8 @@
 #include "import/cortes.h"
 
+#include <string>
+#include <unordered_map>
+
 #include "base/convert.h"
 #include "base/text.h"
 #include "fileformat/pesetas.h"
@@ -7,6 +10,14 @@
 #include "reference/general.h"
 
 namespace zerbal::Importacion {
+namespace {
+
+struct NameHash {
+  using is_transparent = void;
+  size_t operator()(std::string_view name) const { return std::hash<std::string_view>{}(name); }
+};
+
+}  // namespace
 
 Variant Cortar(std::string_view strLinea, std::span<const Corte> cortes, int32_t intUltimo) {
   Variant valores(Array(0, intUltimo, 0, 1));
@@ -21,9 +32,21 @@ Variant Cortar(std::string_view strLinea, std::span<const Corte> cortes, int32_t
 
 int32_t Lugar(const Variant& vBufferValores, std::string_view nombre) {
   const Array& valores = vBufferValores.AsArray();
-  for (int32_t k = 1; k <= valores.UBound(1); ++k) {
+  auto named = [&](int32_t k) {
     const Variant& name = valores(k, 1);
-    if (name.Kind() == VarKind::kString && name.AsString() == nombre) return k;
+    return name.Kind() == VarKind::kString && name.AsString() == nombre;
+  };
+  // The buffers of one period put each name in the same place, line after
+  // line: the place where a name was last found is looked at first.
+  thread_local std::unordered_map<std::string, int32_t, NameHash, std::equal_to<>> last;
+  if (const auto it = last.find(nombre);
+      it != last.end() && it->second <= valores.UBound(1) && named(it->second)) {
+    return it->second;
+  }
+  for (int32_t k = 1; k <= valores.UBound(1); ++k) {
+    if (!named(k)) continue;
+    last.insert_or_assign(std::string(nombre), k);
+    return k;
   }
   return 0;
 }
