@@ -14,6 +14,7 @@
 #include "cli/commands.h"
 #include "cli/demo_data.h"
 #include "cli/export_file.h"
+#include "cli/locations.h"
 #include "zerbal/arrendamiento.h"
 #include "zerbal/databases.h"
 #include "zerbal/declaraciones.h"
@@ -28,22 +29,27 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kUsage =
-    "usage: zerbal demo [DIR]\n"
+    "usage: zerbal demo [DIR] [--data DB] [--lookup DB]\n"
     "\n"
     "Creates the two databases in DIR (default: a new temporary folder, whose\n"
     "name is printed) and walks through the library: a presenter, two\n"
     "declarants with declarations of 2014 and 2012, operations and rentals,\n"
     "copies into 2015 and 2010, the declaration files of 2014, 2012 and 2010\n"
     "(DIR/347_<year>.txt, written as `zerbal export` writes them), and\n"
-    "deletions. DIR must not hold databases already; the databases stay there.\n";
+    "deletions. DIR must not hold databases already; the databases stay there.\n"
+    "\n";
 
 constexpr const char* kPresenterFields[] = {
     "codpres", "dni_cif", "nombre", "via", "domicilio", "numero", "letra", "escalera", "piso",
     "mano", "cod", "codpostal", "municipio", "prefijo", "telefono", "nombrep", "prefijop",
     "telefonop"};
 
-fs::path DemoFolder(const Args& args) {
-  if (!args.empty()) return args[0];
+// The folder named (created when missing), or a new temporary one.
+fs::path DemoFolder(const std::string& named) {
+  if (!named.empty()) {
+    fs::create_directories(named);
+    return named;
+  }
   const char* tmp = std::getenv("TMPDIR");
   std::string pattern = std::string(tmp && *tmp ? tmp : "/tmp") + "/zerbal-demo-XXXXXX";
   if (::mkdtemp(pattern.data()) == nullptr) throw fs::filesystem_error("mkdtemp", pattern, {});
@@ -52,16 +58,17 @@ fs::path DemoFolder(const Args& args) {
 
 class Demo {
  public:
-  Demo(const fs::path& dir, std::ostream& out) : dir_(dir), out_(out) {
-    paths_ = CreateDatabases(dir);
+  Demo(const fs::path& dir, const Locations& where, std::ostream& out)
+      : dir_(dir), where_(where), out_(out) {
+    CreateAt(where_, false, kCurrentSchema);
     for (PathProperties* c : std::initializer_list<PathProperties*>{
              &presentador_, &declarante_, &declaraciones_, &declarado_, &arrendamiento_}) {
-      c->mdbmod(paths_.data.string());
-      c->mdblec(paths_.lookup.string());
+      c->mdbmod(where_.data);
+      c->mdblec(where_.lookup);
     }
     out_ << "zerbal demo in " << dir.string() << "\n\n"
-         << "1. Created " << paths_.data.filename().string() << " (data) and "
-         << paths_.lookup.filename().string() << " (lookup)\n";
+         << "1. Created " << Shown(where_.data) << " (data) and " << Shown(where_.lookup)
+         << " (lookup)\n";
   }
 
   void Run() {
@@ -145,7 +152,8 @@ class Demo {
     out_ << "8. Exported the declaration files (record 0, then each declarant's 1, 2 and 3):\n";
     for (int32_t year : {2014, 2012, 2010}) {
       ExportOptions options;
-      options.data = paths_.data;
+      options.data = where_.data;
+      options.lookup = where_.lookup;
       options.year = year;
       options.out = dir_ / ("347_" + std::to_string(year) + ".txt");
       const ExportSummary s = ExportYear(options);
@@ -164,15 +172,23 @@ class Demo {
     declarante_.EliminarDeclarante(codes_[1], true);
     Lists(("9. Deleted declarant " + std::to_string(codes_[1]) +
            " with its declarations; what is left:").c_str());
-    out_ << "\nThe databases stay in " << dir_.string() << "; try\n  zerbal export --dir "
-         << dir_.string() << " --year 2014 --out 347_2014.txt\n";
+    const bool server = IsServerLocation(where_.data);
+    out_ << "\nThe databases stay " << (server ? "on the server" : "in " + dir_.string())
+         << "; try\n  zerbal export "
+         << (server ? "--data " + where_.data + " --lookup " + where_.lookup : "--dir " + dir_.string())
+         << " --year 2014 --out 347_2014.txt\n";
   }
 
   static int32_t CLngOf(const Variant& text) { return std::stoi(text.AsString()); }
 
+  // A file by its name, a server's database by its URI.
+  static std::string Shown(const std::string& location) {
+    return IsServerLocation(location) ? location : fs::path(location).filename().string();
+  }
+
   fs::path dir_;
+  Locations where_;
   std::ostream& out_;
-  DatabasePaths paths_;
   cPresentador presentador_;
   cDeclarante declarante_;
   cDeclaraciones declaraciones_;
@@ -186,15 +202,29 @@ class Demo {
 
 int RunDemo(const Args& args, std::ostream& out, std::ostream& err) {
   if (WantsHelp(args)) {
-    out << kUsage;
+    out << kUsage << kLocationUsage;
     return 0;
   }
-  if (args.size() > 1) {
-    err << kUsage;
+  std::string named;
+  LocationArgs locations;
+  bool usable = true;
+  for (size_t i = 0; i < args.size() && usable; ++i) {
+    if (LocationArgs::IsOption(args[i]) && args[i] != "--dir") {
+      usable = i + 1 < args.size() && locations.Take(args[i], args[i + 1]);
+      ++i;
+    } else {
+      usable = named.empty() && !args[i].starts_with("-");
+      named = args[i];
+    }
+  }
+  if (!usable) {
+    err << kUsage << kLocationUsage;
     return 2;
   }
   try {
-    Demo(DemoFolder(args), out).Run();
+    const fs::path dir = DemoFolder(named);
+    locations.Take("--dir", dir.string());
+    Demo(dir, *locations.Resolve(), out).Run();
     return 0;
   } catch (...) {
     return ReportError(err);

@@ -10,14 +10,16 @@
 #include "base/convert.h"
 #include "cli/commands.h"
 #include "cli/export_file.h"
+#include "cli/locations.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::cli {
 namespace {
 
 constexpr const char* kUsage =
-    "usage: zerbal export --dir DIR --year YEAR --out FILE [--currency E|P]\n"
-    "                     [--declarants FILE] [--encoding windows-1252|utf-8]\n"
+    "usage: zerbal export --dir DIR | --data DB [--lookup DB] --year YEAR --out FILE\n"
+    "                     [--currency E|P] [--declarants FILE]\n"
+    "                     [--encoding windows-1252|utf-8]\n"
     "\n"
     "Writes the declaration file of fiscal year YEAR from DIR/347mod.db: the\n"
     "presenter's record first, then each declarant's records, one per line\n"
@@ -26,26 +28,37 @@ constexpr const char* kUsage =
     "declarations in euros (E, the default) or pesetas (P). --declarants also\n"
     "writes the declarants file (162 characters a line). Each file is replaced\n"
     "whole, keeping its mode, or left as it was; neither may be a database or\n"
-    "anything but a regular file.\n";
+    "anything but a regular file.\n"
+    "\n";
 
 // Reads "--name value" pairs; false on anything else.
-bool ReadOptions(const Args& args, std::map<std::string, std::string>& options) {
-  static const char* const kKnown[] = {"--dir", "--year", "--out", "--currency", "--declarants",
+bool ReadOptions(const Args& args, std::map<std::string, std::string>& options,
+                 LocationArgs& locations) {
+  static const char* const kKnown[] = {"--year", "--out", "--currency", "--declarants",
                                        "--encoding"};
   for (size_t i = 0; i < args.size(); i += 2) {
+    if (i + 1 >= args.size()) return false;
+    if (LocationArgs::IsOption(args[i])) {
+      if (!locations.Take(args[i], args[i + 1])) return false;
+      continue;
+    }
     const bool known = std::find(std::begin(kKnown), std::end(kKnown), args[i]) != std::end(kKnown);
-    if (!known || i + 1 >= args.size() || options.count(args[i])) return false;
+    if (!known || options.count(args[i])) return false;
     options[args[i]] = args[i + 1];
   }
-  return options.count("--dir") && options.count("--year") && options.count("--out");
+  return options.count("--year") && options.count("--out");
 }
 
-bool ToOptions(const std::map<std::string, std::string>& given, ExportOptions& o) {
+bool ToOptions(const std::map<std::string, std::string>& given, const LocationArgs& locations,
+               ExportOptions& o) {
+  const std::optional<Locations> where = locations.Resolve();
+  if (!where) return false;
   double year = 0;
   if (!ParseNumber(given.at("--year"), &year) || year < 1900 || year > 9999 || year != int(year)) {
     return false;
   }
-  o.data = std::filesystem::path(given.at("--dir")) / kDataFileName;
+  o.data = where->data;
+  o.lookup = where->lookup;
   o.year = static_cast<int32_t>(year);
   o.out = given.at("--out");
   if (auto it = given.find("--currency"); it != given.end()) o.currency = UCase(it->second);
@@ -62,13 +75,14 @@ bool ToOptions(const std::map<std::string, std::string>& given, ExportOptions& o
 
 int RunExport(const Args& args, std::ostream& out, std::ostream& err) {
   if (WantsHelp(args)) {
-    out << kUsage;
+    out << kUsage << kLocationUsage;
     return 0;
   }
   std::map<std::string, std::string> given;
+  LocationArgs locations;
   ExportOptions options;
-  if (!ReadOptions(args, given) || !ToOptions(given, options)) {
-    err << kUsage;
+  if (!ReadOptions(args, given, locations) || !ToOptions(given, locations, options)) {
+    err << kUsage << kLocationUsage;
     return 2;
   }
   if (&err == &std::cerr && ::isatty(STDERR_FILENO)) options.progress = &err;

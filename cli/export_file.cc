@@ -15,6 +15,7 @@
 #include "cli/export_target.h"
 #include "fileformat/layout.h"
 #include "zerbal/conexion_dao.h"
+#include "zerbal/databases.h"
 #include "zerbal/exportacion.h"
 #include "zerbal/presentador.h"
 #include "zerbal/timpexp.h"
@@ -152,7 +153,8 @@ std::string DeclarantsFileText(cExportacion& exportacion, const Variant& codes) 
 }  // namespace
 
 ExportSummary ExportYear(const ExportOptions& o) {
-  const std::vector<KeptFile> databases = DatabaseFiles(o.data);
+  const fs::path lookup = o.lookup.empty() ? o.data.parent_path() / kLookupFileName : o.lookup;
+  const std::vector<KeptFile> databases = DatabaseFiles(o.data, lookup);
   std::vector<KeptFile> kept_from_declarants = databases;
   kept_from_declarants.push_back({o.out, "the declaration file (--out)"});
   CheckTarget(o.out, databases);

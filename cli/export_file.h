@@ -19,7 +19,8 @@
 namespace zerbal::cli {
 
 struct ExportOptions {
-  std::filesystem::path data;  // the data database
+  std::filesystem::path data;    // the data database
+  std::filesystem::path lookup;  // never written over; the data's neighbour when empty
   int32_t year = 0;
   std::string currency = "E";
   std::filesystem::path out;

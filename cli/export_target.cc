@@ -10,6 +10,7 @@
 #include <random>
 
 #include "cli/export_file.h"
+#include "cli/locations.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::cli {
@@ -108,13 +109,14 @@ void FlushFolder(const fs::path& folder, const fs::path& target) {
 
 }  // namespace
 
-std::vector<KeptFile> DatabaseFiles(const fs::path& data) {
+std::vector<KeptFile> DatabaseFiles(const fs::path& data, const fs::path& lookup) {
   std::vector<KeptFile> files;
   const std::pair<fs::path, std::string> databases[] = {
       {data, "the data database"},
-      {data.parent_path() / kLookupFileName, "the lookup database"},
+      {lookup, "the lookup database"},
   };
   for (const auto& [path, what] : databases) {
+    if (IsServerLocation(path.string())) continue;
     files.push_back({path, what});
     for (const char* engine_file : {"-wal", "-shm", "-journal"}) {
       files.push_back({path.string() + engine_file, "a file of " + what});

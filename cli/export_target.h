@@ -27,9 +27,10 @@ struct KeptFile {
   std::string what;  // "the data database"
 };
 
-// The data database at `data`, the lookup database beside it, and the
-// engine's files beside each (a missing one is simply never matched).
-std::vector<KeptFile> DatabaseFiles(const std::filesystem::path& data);
+// The data and lookup databases that are files, and the engine's files
+// beside each (a missing one is simply never matched).
+std::vector<KeptFile> DatabaseFiles(const std::filesystem::path& data,
+                                    const std::filesystem::path& lookup);
 
 // Raises ExportFailure when `target` exists and is not a regular file (a
 // folder, a FIFO, a device, a symbolic link) or is one of `kept`, compared

@@ -14,6 +14,7 @@
 #include "cli/commands.h"
 #include "cli/import_file.h"
 #include "cli/import_texts.h"
+#include "cli/locations.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::cli {
@@ -23,7 +24,8 @@ namespace fs = std::filesystem;
 using nlohmann::json;
 
 constexpr const char* kUsage =
-    "usage: zerbal import --dir DIR [--years MIN-MAX] [--encoding windows-1252|utf-8]\n"
+    "usage: zerbal import --dir DIR | --data DB [--lookup DB] [--years MIN-MAX]\n"
+    "                     [--encoding windows-1252|utf-8]\n"
     "                     [--state] [--declaration CODE [--only operations|rentals|both]]\n"
     "                     [--lang es|eu] [--json] FILE\n"
     "\n"
@@ -42,10 +44,12 @@ constexpr const char* kUsage =
     "--lang eu, in Basque; --json writes one JSON object per line instead.\n"
     "\n"
     "Exit status: 0 every line stored, 3 some lines refused, 1 the import\n"
-    "could not run or stopped, 2 bad usage.\n";
+    "could not run or stopped, 2 bad usage.\n"
+    "\n";
 
 struct Command {
   ImportOptions options;
+  LocationArgs locations;
   Lang lang = Lang::kEs;
   bool json = false;
 };
@@ -74,9 +78,8 @@ bool ReadYears(const std::string& text, ImportOptions& o) {
 
 bool Apply(const std::string& name, const std::string& value, Command& c) {
   ImportOptions& o = c.options;
-  if (name == "--dir") {
-    o.data = fs::path(value) / kDataFileName;
-    o.lookup = fs::path(value) / kLookupFileName;
+  if (LocationArgs::IsOption(name)) {
+    return c.locations.Take(name, value);
   } else if (name == "--years") {
     return ReadYears(value, o);
   } else if (name == "--encoding") {
@@ -126,7 +129,11 @@ bool Parse(const Args& args, Command& c) {
     }
   }
   const bool only_alone = seen.count("--only") && !seen.count("--declaration");
-  return file && seen.count("--dir") && !only_alone;
+  const std::optional<Locations> where = c.locations.Resolve();
+  if (!where) return false;
+  c.options.data = where->data;
+  c.options.lookup = where->lookup;
+  return file && !only_alone;
 }
 
 // `text` with "{n}" and the other places filled in.
@@ -271,12 +278,12 @@ class Progress {
 
 int RunImport(const Args& args, std::ostream& out, std::ostream& err) {
   if (WantsHelp(args)) {
-    out << kUsage;
+    out << kUsage << kLocationUsage;
     return 0;
   }
   Command c;
   if (!Parse(args, c)) {
-    err << kUsage;
+    err << kUsage << kLocationUsage;
     return 2;
   }
   const bool terminal = &err == &std::cerr && ::isatty(STDERR_FILENO);

@@ -6,6 +6,7 @@
 #include "base/convert.h"
 #include "base/text.h"
 #include "cli/line_reader.h"
+#include "cli/locations.h"
 #include "zerbal/declaraciones.h"
 #include "zerbal/error.h"
 #include "zerbal/impexp.h"
@@ -174,7 +175,7 @@ void CheckLayout(const ImportOptions& o) {
 }
 
 void CheckDatabase(const fs::path& path, const char* what) {
-  if (!fs::is_regular_file(path)) {
+  if (!IsServerLocation(path.string()) && !fs::is_regular_file(path)) {
     throw ImportStopped("there is no " + std::string(what) + " database at " + path.string(), {},
                         0);
   }

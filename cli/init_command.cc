@@ -1,24 +1,34 @@
+#include <filesystem>
+#include <optional>
 #include <ostream>
+#include <system_error>
 
 #include "base/convert.h"
+#include "base/raise.h"
 #include "cli/commands.h"
+#include "cli/locations.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::cli {
 
 namespace {
+
+namespace fs = std::filesystem;
 constexpr const char* kUsage =
-    "usage: zerbal init DIR [--force] [--schema 2007|2008|2011]\n"
+    "usage: zerbal init [--dir] DIR | --data DB [--lookup DB] [--force]\n"
+    "                   [--schema 2007|2008|2011]\n"
     "\n"
     "Creates DIR/347mod.db, the data database (empty, with its settings row),\n"
     "and DIR/347lec.db, the lookup database (reference data in Spanish and\n"
-    "Basque). DIR is created when missing. Existing files are left alone\n"
-    "unless --force is given, which replaces them.\n"
+    "Basque). DIR is created when missing. Existing databases are left alone\n"
+    "unless --force is given, which replaces them. On a server, the database\n"
+    "named by the URI must exist; init creates the tables in it.\n"
     "\n"
     "--schema makes the data database as the program of that year left it,\n"
     "for trying 'zerbal upgrade': 2007 lacks every column that the upgrade\n"
     "adds, 2008 the quarterly amounts and the intra-community and 2014\n"
-    "columns, 2011 only the intra-community and 2014 columns.\n";
+    "columns, 2011 only the intra-community and 2014 columns.\n"
+    "\n";
 
 // The year after --schema (the library says which years it knows).
 bool ReadSchema(const std::string& text, int* schema) {
@@ -34,35 +44,46 @@ bool ReadSchema(const std::string& text, int* schema) {
 
 int RunInit(const Args& args, std::ostream& out, std::ostream& err) {
   if (WantsHelp(args)) {
-    out << kUsage;
+    out << kUsage << kLocationUsage;
     return 0;
   }
   std::string dir;
+  LocationArgs locations;
   bool force = false;
   int schema = kCurrentSchema;
-  for (size_t i = 0; i < args.size(); ++i) {
+  bool usable = true;
+  for (size_t i = 0; i < args.size() && usable; ++i) {
     const std::string& arg = args[i];
     if (arg == "--force") {
       force = true;
     } else if (arg == "--schema" && schema == kCurrentSchema && i + 1 < args.size() &&
                ReadSchema(args[i + 1], &schema)) {
       ++i;
+    } else if (LocationArgs::IsOption(arg)) {
+      usable = i + 1 < args.size() && locations.Take(arg, args[++i]);
+      if (arg == "--dir") dir = args[i];
     } else if (dir.empty() && !arg.starts_with("-")) {
       dir = arg;
+      usable = locations.Take("--dir", dir);
     } else {
-      err << kUsage;
-      return 2;
+      usable = false;
     }
   }
-  if (dir.empty()) {
-    err << kUsage;
+  const std::optional<Locations> where = locations.Resolve();
+  if (!usable || !where) {
+    err << kUsage << kLocationUsage;
     return 2;
   }
   try {
-    const DatabasePaths paths = CreateDatabases(dir, force, schema);
-    out << "Created " << paths.data.string() << " (data database"
+    if (!dir.empty()) {
+      std::error_code ec;
+      fs::create_directories(dir, ec);
+      if (ec) Raise(errc::kPathNotFound, dir + ": " + ec.message());
+    }
+    CreateAt(*where, force, schema);
+    out << "Created " << where->data << " (data database"
         << (schema == kCurrentSchema ? "" : " of " + std::to_string(schema)) << ")\n"
-        << "Created " << paths.lookup.string() << " (lookup database)\n";
+        << "Created " << where->lookup << " (lookup database)\n";
     return 0;
   } catch (...) {
     return ReportError(err);

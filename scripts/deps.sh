@@ -3,7 +3,9 @@
 # Sourced by the other scripts; the machines run as root, otherwise sudo is used.
 set -euo pipefail
 
-zerbal_packages=(cmake g++ make pkg-config libsqlite3-dev sqlite3 libgtest-dev libbenchmark-dev nlohmann-json3-dev)
+# postgresql is for the tests of the server engine (scripts/pg_server.sh).
+zerbal_packages=(cmake g++ make pkg-config libsqlite3-dev sqlite3 libgtest-dev libbenchmark-dev nlohmann-json3-dev
+                 libpq-dev postgresql)
 
 zerbal_install_deps() {
   local missing=()

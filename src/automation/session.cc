@@ -119,7 +119,13 @@ json Session::Handle(const json& request) {
   const std::string op = Text(request, "op");
   json answer = {{"ok", true}};
   if (op == "create") {
-    answer["handle"] = Keep(CreateObject(Text(request, "class")))["handle"];
+    std::unique_ptr<AutomationObject> object = CreateObject(Text(request, "class"));
+    for (const auto& [name, value] : presets_) {
+      for (const MemberInfo& member : object->Members()) {
+        if (member.kind == Invocation::kPropertyLet && member.name == name) object->Let(name, value);
+      }
+    }
+    answer["handle"] = Keep(std::move(object))["handle"];
   } else if (op == "let") {
     Object(request).Let(Text(request, "name"), FromJson(Field(request, "value")));
   } else if (op == "get" || op == "call") {

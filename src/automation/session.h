@@ -45,6 +45,8 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -62,6 +64,11 @@ inline constexpr int kMaxDepth = 64;
 
 class Session {
  public:
+  // Values every object created afterwards gets as its properties of these
+  // names (case as the class gives them), where it has them: the databases
+  // named on the command line, so that a client need not send them.
+  void Preset(std::string name, Variant value) { presets_.emplace_back(std::move(name), std::move(value)); }
+
   // The answer line (without its line end) to one request line.
   std::string Answer(std::string_view line);
 
@@ -76,6 +83,7 @@ class Session {
   nlohmann::json Keep(std::unique_ptr<AutomationObject> object);
 
   std::map<int64_t, std::unique_ptr<AutomationObject>> objects_;
+  std::vector<std::pair<std::string, Variant>> presets_;
   int64_t next_handle_ = 1;
 };
 

@@ -39,7 +39,7 @@ class ExportTargetTest : public test::DatabaseTest {
     const mode_t mode = Mode(path);
     return std::to_string(mode) + (S_ISREG(mode) ? test::Slurp(path) : "");
   }
-  std::vector<KeptFile> Kept() { return DatabaseFiles(mod_); }
+  std::vector<KeptFile> Kept() { return DatabaseFiles(mod_, lec_); }
 };
 
 TEST_F(ExportTargetTest, RefusesWhatIsNotARegularFileAndEachDatabase) {
