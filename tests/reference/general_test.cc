@@ -1,8 +1,5 @@
 #include "reference/general.h"
 
-#include <set>
-
-#include "reference/country_codes.h"
 #include "testutil.h"
 
 namespace zerbal::General {
@@ -13,9 +10,8 @@ TEST(GeneralTest, BCReadsOnlyDigitsAndMinus) {
     Variant value;
     double number;
   } rows[] = {
-      {"", 0},       {"   ", 0},     {"12.5", 0},   {"1 000", 0},  {"abc", 0},
-      {"-42", -42},  {"0012", 12},   {"--5", 0},    {"5-", 0},     {Variant(), 0},
-      {-1234.0, -1234}, {12.5, 0},   {7, 7},        {"12,50", 0},  {"000000000001234", 1234},
+      {"", 0},       {"12.5", 0},  {"abc", 0},      {"-42", -42}, {"0012", 12},
+      {"--5", 0},    {Variant(), 0}, {-1234.0, -1234}, {12.5, 0},   {7, 7},
   };
   for (const auto& row : rows) EXPECT_EQ(BC(row.value), row.number) << DebugString(row.value);
   const auto error = test::ErrorOf([] { BC(Variant::Null()); });
@@ -28,8 +24,6 @@ TEST(GeneralTest, BCReadsOnlyDigitsAndMinus) {
 }
 
 TEST(GeneralTest, FixedWidthFields) {
-  EXPECT_EQ(FormatoNumero(7, 4, "0"), "0007");
-  EXPECT_EQ(FormatoNumero(12345, 4, "0"), "12345");
   EXPECT_EQ(FormatoNumero(-7, 4, "00"), "-0007");
   EXPECT_EQ(FormatoImporte(-1234, 15, "0"), "000000000001234");
   EXPECT_EQ(FormatoImporte(99999999999, 15, "0"), "000099999999999");
@@ -67,29 +61,18 @@ TEST(GeneralTest, OperationKeysOfEarlierYears) {
 }
 
 TEST(GeneralTest, CountryCodesBothWays) {
+  // Each code of the table both ways: lookup_data_test.cc.
   const struct {
     const char* code;
     int16_t mode;
     const char* converted;
   } rows[] = {
-      {"4", 0, "DE"},  {"004", 0, "DE"}, {"958", 0, "OP"}, {"11", 0, "ES"}, {"999", 0, " "},
-      {"FR", 1, "1"},  {"fr", 1, " "},   {"QQ", 1, " "},   {"", 1, ""},     {"  ", 0, "  "},
-      {" DE ", 1, "4"}, {"XN", 1, "921"},
+      {"004", 0, "DE"}, {"999", 0, " "}, {"fr", 1, " "},  {"QQ", 1, " "},
+      {"", 1, ""},      {"  ", 0, "  "}, {" DE ", 1, "4"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(CodigoPais(row.code, row.mode), row.converted) << row.code << " mode " << row.mode;
   }
-  std::set<std::string_view> letters;
-  std::set<int32_t> numbers;
-  for (const CountryCode& row : CountryCodes()) {
-    letters.insert(row.letters);
-    numbers.insert(row.number);
-    EXPECT_EQ(CodigoPais(std::to_string(row.number), 0), row.letters);
-    EXPECT_EQ(CodigoPais(std::string(row.letters), 1), std::to_string(row.number));
-  }
-  EXPECT_EQ(CountryCodes().size(), 222u);
-  EXPECT_EQ(letters.size(), 222u);
-  EXPECT_EQ(numbers.size(), 222u);
 }
 
 TEST(GeneralTest, ProvinceOrCountryOfTheStateLayout) {

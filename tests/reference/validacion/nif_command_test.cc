@@ -11,59 +11,39 @@
 namespace zerbal::cli {
 namespace {
 
-struct Result {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-Result RunCommand(const std::vector<std::string>& args, const std::string& input = "") {
-  std::istringstream in(input);
-  std::ostringstream out;
-  std::ostringstream err;
-  const int status = RunNif(args, in, out, err);
-  return {status, out.str(), err.str()};
-}
-
-TEST(NifCommandTest, Arguments) {
-  const Result all = RunCommand({"54362315K", "es x-2482300-w", "A13 585 625"});
-  EXPECT_EQ(all.status, 0);
-  EXPECT_EQ(all.out, "54362315K\tvalid\nes x-2482300-w\tvalid\nA13 585 625\tvalid\n");
-
-  const Result mixed = RunCommand({"54362315Z", "54362315K"}, "X2482300W\n");
-  EXPECT_EQ(mixed.status, 1);
-  EXPECT_EQ(mixed.out, "54362315Z\tinvalid\n54362315K\tvalid\n") << "input is not read";
-}
-
-TEST(NifCommandTest, StandardInput) {
-  const Result r = RunCommand({}, "54362315K\r\n\n   \r\nX2482300A\nQ-2818015-F");
-  EXPECT_EQ(r.status, 1);
-  EXPECT_EQ(r.out, "54362315K\tvalid\nX2482300A\tinvalid\nQ-2818015-F\tvalid\n");
-  EXPECT_EQ(RunCommand({}, "").status, 0);
-}
-
-TEST(NifCommandTest, Vat) {
-  const Result r = RunCommand({"--vat", "DE 136695976", "ES 54362315K"});
-  EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.out, "DE 136695976\tvalid\nES 54362315K\tvalid\n");
-  EXPECT_EQ(RunCommand({"--vat"}, "136695976\n").out, "136695976\tinvalid\n");
-  // Without --vat a foreign number is not a Spanish identifier.
-  EXPECT_EQ(RunCommand({"DE136695976"}).status, 1);
-}
-
-TEST(NifCommandTest, Usage) {
-  const Result help = RunCommand({"--help", "54362315Z"});
-  EXPECT_EQ(help.status, 0);
-  EXPECT_NE(help.out.find("usage: zerbal nif"), std::string::npos);
-
-  const Result bad = RunCommand({"--strict", "54362315K"});
-  EXPECT_EQ(bad.status, 2);
-  EXPECT_EQ(bad.out, "");
-  EXPECT_NE(bad.err.find("--strict"), std::string::npos);
-
-  const Result ended = RunCommand({"--", "--vat"});
-  EXPECT_EQ(ended.status, 1);
-  EXPECT_EQ(ended.out, "--vat\tinvalid\n");
+TEST(NifCommandTest, ArgumentsOrInputAndTheStatus) {
+  const struct {
+    std::vector<std::string> args;
+    const char* input;
+    int status;
+    const char* out;
+    const char* err;  // a text it must hold
+  } rows[] = {
+      {{"54362315K", "es x-2482300-w", "A13 585 625"}, "", 0,
+       "54362315K\tvalid\nes x-2482300-w\tvalid\nA13 585 625\tvalid\n", ""},
+      {{"54362315Z", "54362315K"}, "X2482300W\n", 1, "54362315Z\tinvalid\n54362315K\tvalid\n",
+       ""},  // with arguments the input is not read
+      {{}, "54362315K\r\n\n   \r\nX2482300A\nQ-2818015-F", 1,
+       "54362315K\tvalid\nX2482300A\tinvalid\nQ-2818015-F\tvalid\n", ""},
+      {{}, "", 0, "", ""},
+      {{"--vat", "DE 136695976", "ES 54362315K"}, "", 0,
+       "DE 136695976\tvalid\nES 54362315K\tvalid\n", ""},
+      {{"--vat"}, "136695976\n", 1, "136695976\tinvalid\n", ""},
+      {{"DE136695976"}, "", 1, "DE136695976\tinvalid\n", ""},  // not a Spanish identifier
+      {{"--", "--vat"}, "", 1, "--vat\tinvalid\n", ""},
+      {{"--strict", "54362315K"}, "", 2, "", "--strict"},
+  };
+  for (const auto& row : rows) {
+    std::istringstream in(row.input);
+    std::ostringstream out, err;
+    EXPECT_EQ(RunNif(row.args, in, out, err), row.status) << row.out;
+    EXPECT_EQ(out.str(), row.out);
+    EXPECT_NE(err.str().find(row.err), std::string::npos) << err.str();
+  }
+  std::istringstream none;
+  std::ostringstream help, err;
+  EXPECT_EQ(RunNif({"--help", "54362315Z"}, none, help, err), 0);
+  EXPECT_NE(help.str().find("usage: zerbal nif"), std::string::npos);
 }
 
 }  // namespace
