@@ -233,8 +233,6 @@ TEST_F(SessionTest, AnObjectResultGetsAHandleOfItsOwn) {
   EXPECT_EQ(opened["result"], json({{"type", "Object"}, {"handle", 2}})) << opened.dump();
   EXPECT_EQ(Ask(R"({"op": "get", "handle": 2, "name": "RecordCount"})")["result"],
             ToJson(Variant(1)));
-  EXPECT_EQ(Ask(R"({"op": "get", "handle": 2, "name": "Fields", "args": ["NOMBRE"]})")["result"],
-            ToJson(Variant("Irizar")));
 
   json listed;
   const json members = Ask(R"({"op": "members", "handle": 1})");
