@@ -127,7 +127,6 @@ TEST_F(ExportYearTest, NeitherOutputMayBeADatabaseOrTheOtherOutput) {
     std::optional<fs::path> declarants;
   } rows[] = {
       {"--out the data database", mod_, {}},
-      {"--out the lookup database", lec_, {}},
       {"--declarants the data database", dir_ / "out.txt", mod_},
       {"both the same new file", dir_ / "out.txt", dir_.path() / "." / "out.txt"},
   };
