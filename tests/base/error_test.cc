@@ -37,10 +37,6 @@ TEST(ErrorTest, ForeignExceptionsBecomeNumberedErrors) {
   EXPECT_EQ(other->Description(), "Internal error: boom");
 }
 
-TEST(ErrorTest, WithPrefixReturnsTheBodysValue) {
-  EXPECT_EQ(WithPrefix("x ", [] { return 7; }), 7);
-}
-
 TEST(ErrorTest, RaiseUsesTheStandardTextAndTheDetail) {
   const auto error = test::ErrorOf([] { Raise(errc::kTypeMismatch, "'abc'"); });
   ASSERT_TRUE(error);
