@@ -5,8 +5,6 @@
 
 #include "testutil.h"
 #include "zerbal/automation.h"
-#include "zerbal/declaraciones.h"
-#include "zerbal/presentador.h"
 
 namespace zerbal {
 namespace {
@@ -28,19 +26,8 @@ class BindingsTest : public test::DatabaseTest {
   }
 };
 
+// The presenter's buffer: session_test.cc, through the bridge.
 TEST_F(BindingsTest, BuffersTakenByReferenceComeBackInTheArguments) {
-  auto presenter = Make("zerbal.cPresentador");
-  EXPECT_EQ(Call(*presenter, "GuardarPresentador", {test::PersonBuffer(0, "B20456786", "Irizar")}),
-            Variant(1));
-  Args load{Variant()};
-  EXPECT_TRUE(presenter->Call("CargarPresentador", load).IsEmpty()) << "a procedure gives Empty";
-  cPresentador direct;
-  direct.mdbmod(mod_);
-  Variant expected;
-  direct.CargarPresentador(expected);
-  EXPECT_EQ(load[0], expected);
-  EXPECT_EQ(load[0](2), Variant("Irizar"));
-
   auto declarant = Make("zerbal.cDeclarante");
   const Variant code = Call(*declarant, "GuardarDeclarante", {test::PersonBuffer(0, "15210220C", "Ane")});
   Args args{"1", "to be replaced"};  // the code as text converts as late binding does

@@ -192,10 +192,8 @@ TEST_F(SessionTest, ServeAnswersEachLineAndDropsOneTooLongToKeep) {
 TEST_F(SessionTest, BuffersComeBackChangedAndLibraryErrorsUnchanged) {
   Ask(R"({"op": "create", "class": "zerbal.cPresentador"})");
   Ask(R"({"op": "let", "handle": 1, "name": "mdbmod", "value": )" + json(mod_).dump() + "}");
-  const json saved = Ask(
-      R"({"op": "call", "handle": 1, "name": "GuardarPresentador", "args": [{"type": "Array",
-      "bounds": [[0, 17]], "elements": [0, "B20456786", "Irizar", "CL", "Nagusia", 12, "", "",
-      "", "", 20, "20005", "Donostia", 943, "", "", 0, ""]}]})");
+  const json saved = Ask(R"({"op": "call", "handle": 1, "name": "GuardarPresentador", "args": [)" +
+                         ToJson(test::PersonBuffer(0, "B20456786", "Irizar")).dump() + "]}");
   EXPECT_EQ(saved["result"], ToJson(Variant(1))) << saved.dump();
 
   const json loaded =

@@ -17,7 +17,7 @@ TEST(NifCommandTest, ArgumentsOrInputAndTheStatus) {
     const char* input;
     int status;
     const char* out;
-    const char* err;  // a text it must hold
+    const char* err;  // a text it must hold, if any
   } rows[] = {
       {{"54362315K", "es x-2482300-w", "A13 585 625"}, "", 0,
        "54362315K\tvalid\nes x-2482300-w\tvalid\nA13 585 625\tvalid\n", ""},
@@ -38,7 +38,9 @@ TEST(NifCommandTest, ArgumentsOrInputAndTheStatus) {
     std::ostringstream out, err;
     EXPECT_EQ(RunNif(row.args, in, out, err), row.status) << row.out;
     EXPECT_EQ(out.str(), row.out);
-    EXPECT_NE(err.str().find(row.err), std::string::npos) << err.str();
+    if (*row.err) {
+      EXPECT_NE(err.str().find(row.err), std::string::npos) << err.str();
+    }
   }
   std::istringstream none;
   std::ostringstream help, err;
