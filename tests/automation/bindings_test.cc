@@ -1,10 +1,10 @@
 // The record classes and the connection driven by name: arguments changed
-// by reference, optional arguments left out, late-binding errors, and an
-// object returned by a member. Errors of the library passed on unchanged:
-// session_test.cc, through the bridge.
+// by reference, optional arguments left out, late-binding errors, an error
+// of the library passed on unchanged, and an object returned by a member.
 
 #include "testutil.h"
 #include "zerbal/automation.h"
+#include "zerbal/presentador.h"
 
 namespace zerbal {
 namespace {
@@ -96,6 +96,21 @@ TEST_F(BindingsTest, LateBindingErrors) {
   Args none;
   EXPECT_RAISES(connection->InvokeObject("Cerrar", Invocation::kMethod, none), 13)
       << "Cerrar returns no object, and does not run: nothing is open to close";
+}
+
+// As a call by name gives it; session_test.cc: as the bridge answers it.
+TEST_F(BindingsTest, AnErrorOfTheLibraryComesOutUnchanged) {
+  const std::string nowhere = (dir_ / "missing.db").string();
+  auto presenter = CreateObject("zerbal.cPresentador");
+  presenter->Let("mdbmod", nowhere);
+  cPresentador direct;
+  direct.mdbmod(nowhere);
+  const auto got = test::ErrorOf([&] { Call(*presenter, "EliminarPresentador", {1}); });
+  const auto want = test::ErrorOf([&] { direct.EliminarPresentador(1); });
+  ASSERT_TRUE(got && want);
+  EXPECT_EQ(want->Number(), 3024);
+  EXPECT_EQ(std::tuple(got->Number(), got->Source(), got->Description()),
+            std::tuple(want->Number(), want->Source(), want->Description()));
 }
 
 TEST_F(BindingsTest, AConnectionCreatedByNameIsItsOwnAndReturnsRecordsets) {

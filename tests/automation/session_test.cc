@@ -232,13 +232,10 @@ TEST_F(SessionTest, AnObjectResultGetsAHandleOfItsOwn) {
   EXPECT_EQ(Ask(R"({"op": "get", "handle": 2, "name": "RecordCount"})")["result"],
             ToJson(Variant(1)));
 
-  json listed;
-  const json members = Ask(R"({"op": "members", "handle": 1})");
-  for (const json& m : members["result"]) {
-    if (m["name"] == "openRecordset") listed = m;
-  }
-  EXPECT_EQ(listed, json({{"name", "openRecordset"}, {"kind", "method"}, {"required", 1},
-                          {"optional", 1}, {"object", true}}));
+  // The connection's last member (members_test.cc holds the order).
+  EXPECT_EQ(Ask(R"({"op": "members", "handle": 1})")["result"].back(),
+            json({{"name", "openRecordset"}, {"kind", "method"}, {"required", 1}, {"optional", 1},
+                  {"object", true}}));
   EXPECT_EQ(ErrorNumber(Ask(R"({"op": "call", "handle": 1, "name": "execute",
                                 "args": [{"type": "Object", "handle": 2}]})")), 5)
       << "an object is never an argument";

@@ -57,8 +57,8 @@ TEST(TextTest, Windows1252CodesOfCharacters) {
 
 // Each pair is a letter and its capital, or a character that has none.
 TEST(TextTest, CaseOfOneCharacter) {
-  for (const auto& [lower, upper] : {std::pair{U'ñ', U'Ñ'}, {U'ł', U'Ł'}, {U'ž', U'Ž'}, {U'ß', U'ß'},
-                                    {U'÷', U'÷'}, {U'×', U'×'}}) {
+  for (const auto& [lower, upper] :
+       {std::pair{U'ñ', U'Ñ'}, {U'ł', U'Ł'}, {U'ž', U'Ž'}, {U'ß', U'ß'}, {U'÷', U'÷'}, {U'×', U'×'}}) {
     EXPECT_EQ(ToUpper(lower), upper) << std::hex << int(lower);
     EXPECT_EQ(ToLower(upper), lower) << std::hex << int(upper);
   }

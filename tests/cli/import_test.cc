@@ -279,7 +279,8 @@ TEST_F(ImportCommandTest, LineEndsEncodingsLayoutsAndInputThatIsNoDeclarationFil
       {"cut short", d.substr(0, 30) + "\n" + o.substr(0, 95), {}, 3,
        {"53  La suma de los trimestres"}, 0},
       {"amounts of letters and signs",
-       d + "\n" + std::string(o).replace(75, 16, "N+-ABCDEFGHIJKLM").replace(128, 16, "X-+ABCDEFGHIJKLM"),
+       d + "\n" +
+           std::string(o).replace(75, 16, "N+-ABCDEFGHIJKLM").replace(128, 16, "X-+ABCDEFGHIJKLM"),
        {}, 3,
        {"36  Importe con caracteres no numéricos: \"N+-ABCDEFGHIJKLM\"\n"
         "  56  Signo del importe no válido: \"X-+ABCDEFGHIJKLM\""}, 0},
