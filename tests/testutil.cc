@@ -1,11 +1,15 @@
 #include "testutil.h"
 
 #include <stdlib.h>
+#include <unistd.h>
+
+#include <atomic>
 
 #include <fstream>
 #include <sstream>
 
 #include "data/engine.h"
+#include "data/pg.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::test {
@@ -23,11 +27,79 @@ TempDir::~TempDir() {
   std::filesystem::remove_all(path_, ignored);
 }
 
+namespace {
+
+const char* ServerUri() {
+  const char* uri = std::getenv("ZERBAL_TEST_PG");
+  return uri != nullptr && *uri != '\0' ? uri : nullptr;
+}
+
+// With the server engine asked for and no server given, every test is
+// skipped rather than run on files a second time.
+class ServerEnvironment : public ::testing::Environment {
+ public:
+  void SetUp() override {
+    if (OnServer() && ServerUri() == nullptr) GTEST_SKIP() << "ZERBAL_TEST_PG is not set";
+  }
+};
+[[maybe_unused]] auto* const g_server_environment =
+    ::testing::AddGlobalTestEnvironment(new ServerEnvironment);
+
+void ServerExec(const std::string& uri, const std::string& sql) {
+  data::PgHandle conn = data::PgConnect(uri);
+  PQsetNoticeProcessor(conn.get(), [](void*, const char*) {}, nullptr);
+  data::PgExecScript(conn.get(), sql);
+}
+
+}  // namespace
+
+bool OnServer() {
+  const char* engine = std::getenv("ZERBAL_TEST_ENGINE");
+  return engine != nullptr && std::string_view(engine) == "postgresql";
+}
+
+std::string ServerDatabase::WithDatabase(const std::string& uri, const std::string& name) {
+  const size_t authority = uri.find("://") + 3;
+  const size_t path = uri.find_first_of("/?", authority);
+  if (path == std::string::npos) return uri + "/" + name;
+  const size_t end = uri[path] == '?' ? path : uri.find('?', path);
+  return uri.substr(0, path) + "/" + name + (end == std::string::npos ? "" : uri.substr(end));
+}
+
+ServerDatabase::ServerDatabase() {
+  const char* server = ServerUri();
+  if (server == nullptr) return;
+  static std::atomic<int> counter{0};
+  name_ = "zerbal_test_" + std::to_string(::getpid()) + "_" + std::to_string(counter++);
+  ServerExec(server, "DROP DATABASE IF EXISTS " + name_ + "; CREATE DATABASE " + name_ +
+                         " TEMPLATE template0 ENCODING 'UTF8'");
+  uri_ = WithDatabase(server, name_);
+}
+
+ServerDatabase::~ServerDatabase() {
+  if (name_.empty()) return;
+  try {
+    ServerExec(ServerUri(), "DROP DATABASE IF EXISTS " + name_ + " WITH (FORCE)");
+  } catch (const Error&) {
+    // Left for the server's end; the tests' names never meet again.
+  }
+}
+
 DatabaseTest::DatabaseTest() {
+  if (OnServer()) {
+    server_ = std::make_unique<ServerDatabase>();
+    mod_ = server_->Uri();
+    CreateDataDatabase(mod_);
+    lec_ = (dir_ / std::string(kLookupFileName)).string();
+    CreateLookupDatabase(lec_);
+    return;
+  }
   const DatabasePaths paths = CreateDatabases(dir_.path());
   mod_ = paths.data.string();
   lec_ = paths.lookup.string();
 }
+
+DatabaseTest::~DatabaseTest() = default;
 
 Variant Buffer(const std::vector<Variant>& values, int extra) {
   Variant b(Array(0, static_cast<int32_t>(values.size()) - 1 + extra));
@@ -61,6 +133,15 @@ std::optional<Error> ErrorOf(const std::function<void()>& body) {
 }
 
 std::vector<std::vector<Variant>> Rows(const std::string& path, const std::string& sql) {
+  if (data::IsServerName(path)) {
+    data::PgHandle conn = data::PgConnect(path);
+    const data::PgResult result = data::PgExec(conn.get(), sql);
+    std::vector<std::vector<Variant>> rows(PQntuples(result.get()));
+    for (int r = 0; r < PQntuples(result.get()); ++r) {
+      for (int c = 0; c < PQnfields(result.get()); ++c) rows[r].push_back(data::PgValue(result.get(), r, c));
+    }
+    return rows;
+  }
   auto conn = data::EngineConnection::Open(path, false);
   data::Statement stmt = data::PrepareOne(conn->db(), sql);
   std::vector<std::vector<Variant>> rows;
@@ -76,6 +157,7 @@ std::vector<std::vector<Variant>> Rows(const std::string& path, const std::strin
 }
 
 void Exec(const std::string& path, const std::string& sql) {
+  if (data::IsServerName(path)) return ServerExec(path, sql);
   auto conn = data::EngineConnection::Open(path, false);
   data::ExecScript(conn->db(), sql);
 }

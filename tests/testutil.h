@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,12 +33,39 @@ class TempDir {
   std::filesystem::path path_;
 };
 
-// A fixture with both databases freshly created in a temporary folder.
+// Whether the tests' data databases are on a server (ZERBAL_TEST_ENGINE).
+bool OnServer();
+
+// A new empty database on the test server (ZERBAL_TEST_PG, the URI of a
+// database where the tests may create others), dropped at the end; the test
+// is skipped by the caller when there is no server (Uri() empty).
+class ServerDatabase {
+ public:
+  ServerDatabase();
+  ~ServerDatabase();
+  ServerDatabase(const ServerDatabase&) = delete;
+  ServerDatabase& operator=(const ServerDatabase&) = delete;
+  const std::string& Uri() const { return uri_; }
+
+  // `uri` (a server URI) naming the database `name` instead.
+  static std::string WithDatabase(const std::string& uri, const std::string& name);
+
+ private:
+  std::string name_;
+  std::string uri_;
+};
+
+// A fixture with both databases freshly created in a temporary folder. When
+// the environment says ZERBAL_TEST_ENGINE=postgresql, the data database is
+// instead a new database on the server of ZERBAL_TEST_PG (see ServerDatabase),
+// so that the same tests run on both engines.
 class DatabaseTest : public ::testing::Test {
  protected:
   DatabaseTest();
+  ~DatabaseTest() override;
   TempDir dir_;
-  std::string mod_;  // the data database
+  std::unique_ptr<ServerDatabase> server_;  // the data database on a server
+  std::string mod_;  // the data database: a path, or a server URI
   std::string lec_;  // the lookup database
 };
 
@@ -56,9 +84,10 @@ std::optional<Error> ErrorOf(const std::function<void()>& body);
 ::testing::AssertionResult Raises(const std::function<void()>& body, int32_t number,
                                   const char* text);
 
-// Every row of `sql` on the database at `path`, each column as its Variant,
-// read through a connection of its own in the engine's own SQL (so a test
-// may look at what the system's SQL may not: rowid, the catalogue, ...).
+// Every row of `sql` on the database at `path` (or server URI), each column
+// as its Variant, read through a connection of its own in the engine's own
+// SQL (so a test may look at what the system's SQL may not: rowid, the
+// catalogue, ...).
 std::vector<std::vector<Variant>> Rows(const std::string& path, const std::string& sql);
 
 // Runs statements in the engine's own SQL on the database at `path`,

@@ -26,6 +26,12 @@ inline constexpr int kCurrentSchema = 0;
 // Each raises 58 when a file is already at `path`, unless `replace` is true;
 // 76 when the folder of `path` does not exist; 5 for a schema that is
 // neither kCurrentSchema nor one of those years.
+//
+// `path` may instead be a postgresql:// (or postgres://) URI of a database
+// on a server: the database must exist (createdb makes it; 3024 when it does
+// not), and the tables are made in it in one transaction, the same tables
+// and rows as a file's. 58 when one of them is already there, unless
+// `replace` (which drops only those tables first).
 void CreateDataDatabase(const std::filesystem::path& path, bool replace = false,
                         int schema = kCurrentSchema);
 void CreateLookupDatabase(const std::filesystem::path& path, bool replace = false);

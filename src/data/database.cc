@@ -1,15 +1,12 @@
 #include "data/database.h"
 
-#include <limits>
-
 #include "base/convert.h"
 #include "base/raise.h"
-#include "data/engine.h"
+#include "data/connection.h"
 #include "data/recordset_state.h"
-#include "data/sqlite.h"
 
 namespace zerbal::data {
-Database::Database(std::shared_ptr<EngineConnection> connection, std::string name)
+Database::Database(std::shared_ptr<Connection> connection, std::string name)
     : connection_(std::move(connection)), name_(std::move(name)) {}
 
 Database::Database(Database&&) noexcept = default;
@@ -26,45 +23,17 @@ Database& Database::operator=(Database&& other) noexcept {
 
 Database::~Database() { Close(); }
 
-EngineConnection& Database::Connection() const {
+Connection& Database::Open() const {
   if (!connection_ || connection_->retired()) Raise(errc::kObjectClosed, {}, kEngineSource);
   return *connection_;
 }
 
-void Database::Execute(std::string_view sql, int options) {
-  EngineConnection& conn = Connection();
-  conn.inserted_key().Forget();
-  BoundStatement stmt = conn.Prepare(sql);
-  if (sqlite3_column_count(stmt.get()) > 0) Raise(errc::kSelectInExecute, {}, kEngineSource);
-  int rc;
-  while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
-  }
-  // Even a failed statement may have written (and rolled back) pages.
-  conn.NoteOwnWrite();
-  if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
-  if (stmt.definition()) conn.TablesChanged();
-  conn.inserted_key().AfterStatement(conn.db(), stmt.key_use());
-}
+void Database::Execute(std::string_view sql, int) { Open().Execute(sql); }
 
-Recordset Database::OpenRecordset(std::string_view sql, int type) {
-  EngineConnection& conn = Connection();
-  BoundStatement stmt = conn.Prepare(sql);
-  const int columns = sqlite3_column_count(stmt.get());
-  if (columns == 0) Raise(errc::kInvalidOperation, {}, kEngineSource);
+Recordset Database::OpenRecordset(std::string_view sql, int) {
+  Connection& conn = Open();
   auto state = std::make_shared<RecordsetState>();
-  for (int c = 0; c < columns; ++c) state->names.emplace_back(sqlite3_column_name(stmt.get(), c));
-  if (const auto key = conn.inserted_key().ReadBack(conn.db(), stmt.key_use())) {
-    state->values.push_back(Variant(static_cast<int32_t>(*key)));
-    state->rows = 1;
-  } else {
-    int rc;
-    while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
-      if (state->rows == std::numeric_limits<int32_t>::max()) Raise(errc::kOutOfMemory);
-      for (int c = 0; c < columns; ++c) state->values.push_back(ColumnValue(stmt.get(), c));
-      ++state->rows;
-    }
-    if (rc != SQLITE_DONE) RaiseEngineError(rc, conn.db());
-  }
+  conn.Query(sql, *state);
   std::erase_if(recordsets_, [](const auto& weak) { return weak.expired(); });
   recordsets_.push_back(state);
   return RecordsetStateAccess::Make(std::move(state));
@@ -79,12 +48,12 @@ std::vector<std::shared_ptr<RecordsetState>> Database::LiveRecordsets() const {
 }
 
 int Database::RecordsetCount() const {
-  Connection();
+  Open();
   return static_cast<int>(LiveRecordsets().size());
 }
 
 Recordset Database::RecordsetAt(int index) const {
-  Connection();
+  Open();
   auto live = LiveRecordsets();
   if (index < 0 || index >= static_cast<int>(live.size())) {
     Raise(errc::kItemNotFound, {}, kEngineSource);

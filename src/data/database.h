@@ -13,7 +13,7 @@
 
 namespace zerbal::data {
 
-class EngineConnection;
+class Connection;
 struct RecordsetState;
 
 // An open database. Move-only; destroying it closes it.
@@ -45,18 +45,18 @@ class Database {
   // The engine connection behind it, for the table definitions and
   // transactions of data/table_defs.h and data/transaction.h; raises 3420
   // once closed.
-  std::shared_ptr<EngineConnection> Engine() const {
-    Connection();
+  std::shared_ptr<Connection> Engine() const {
+    Open();
     return connection_;
   }
 
  private:
   friend class Workspace;
-  Database(std::shared_ptr<EngineConnection> connection, std::string name);
-  EngineConnection& Connection() const;
+  Database(std::shared_ptr<Connection> connection, std::string name);
+  Connection& Open() const;
   std::vector<std::shared_ptr<RecordsetState>> LiveRecordsets() const;
 
-  std::shared_ptr<EngineConnection> connection_;
+  std::shared_ptr<Connection> connection_;
   std::string name_;
   std::vector<std::weak_ptr<RecordsetState>> recordsets_;
 };
@@ -68,7 +68,8 @@ class Workspace {
   Workspace(std::string name, std::string user, std::string password, int type);
 
   // Opens the database file at `path` (see EngineConnection::Open for the
-  // errors). `exclusive` has no effect; `read_only` opens it read-only;
+  // errors), or the server database a postgresql:// URI names (see
+  // PgConnection::Open). `exclusive` has no effect; `read_only` opens it read-only;
   // `connect` must be empty.
   Database OpenDatabase(const std::string& path, bool exclusive, bool read_only,
                         std::string_view connect);

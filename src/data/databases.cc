@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "base/raise.h"
+#include "data/connection.h"
 #include "data/engine.h"
+#include "data/pg_schema.h"
 #include "data/resources.h"
 
 namespace zerbal {
@@ -60,6 +62,16 @@ void CheckTarget(const fs::path& path, bool replace) {
   if (!replace && fs::exists(path, ec)) Raise(errc::kFileAlreadyExists, path.string());
 }
 
+std::string Script(const std::vector<std::string_view>& scripts) {
+  std::string sql;
+  for (std::string_view name : scripts) {
+    const std::string_view text = Resource(name);
+    if (text.empty()) Raise(errc::kFileNotFound, name);
+    sql.append(text).append("\n");
+  }
+  return sql;
+}
+
 void Build(const fs::path& file, const std::vector<std::string_view>& scripts) {
   data::PrepareEngine();
   sqlite3* raw = nullptr;
@@ -68,19 +80,16 @@ void Build(const fs::path& file, const std::vector<std::string_view>& scripts) {
                                  nullptr);
   data::DbHandle db(raw);
   if (rc != SQLITE_OK) data::RaiseEngineError(rc, raw);
-  std::string sql = "PRAGMA application_id = " + std::to_string(data::kApplicationId) +
-                    "; PRAGMA user_version = 1; BEGIN;\n";
-  for (std::string_view name : scripts) {
-    const std::string_view text = Resource(name);
-    if (text.empty()) Raise(errc::kFileNotFound, name);
-    sql.append(text).append("\n");
-  }
-  sql += "COMMIT; PRAGMA journal_mode = WAL;";
+  const std::string sql = "PRAGMA application_id = " + std::to_string(data::kApplicationId) +
+                          "; PRAGMA user_version = 1; BEGIN;\n" + Script(scripts) +
+                          "COMMIT; PRAGMA journal_mode = WAL;";
   data::ExecScript(db.get(), sql);
 }
 
-// Builds under a temporary name, then renames into place.
+// Builds under a temporary name, then renames into place; on a server, in
+// one transaction.
 void Create(const fs::path& path, bool replace, const std::vector<std::string_view>& scripts) {
+  if (data::IsServerName(path.string())) return data::CreateOnServer(path.string(), Script(scripts), replace);
   CheckTarget(path, replace);
   const fs::path temp = WithSuffix(path, ".tmp-" + std::to_string(::getpid()));
   RemoveQuietly(temp);

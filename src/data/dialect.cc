@@ -22,6 +22,8 @@ size_t ScopeEnd(const Tokens& t, size_t i) {
   return t.size();
 }
 
+}  // namespace
+
 void RewriteTop(Tokens& t) {
   for (size_t i = 0; i < t.size(); ++i) {
     if (!Is(t, i, "SELECT")) continue;
@@ -36,6 +38,8 @@ void RewriteTop(Tokens& t) {
   }
 }
 
+namespace {
+
 // The name that a select-list item gives its column.
 std::string ItemName(const Tokens& t, size_t begin, size_t end) {
   const size_t last = Prev(t, end);
@@ -47,6 +51,8 @@ std::string ItemName(const Tokens& t, size_t begin, size_t end) {
   Raise(errc::kSyntaxError, "INSERT INTO ... SELECT needs a name for every selected column",
         kEngineSource);
 }
+
+}  // namespace
 
 void AddInsertColumns(Tokens& t) {
   const size_t insert = Next(t, 0);
@@ -73,6 +79,8 @@ void AddInsertColumns(Tokens& t) {
   }
   t.insert(t.begin() + table + 1, {Tok::kPunct, " (" + names + ")"});
 }
+
+namespace {
 
 bool StartsTerm(const Tokens& t, size_t i) {
   static constexpr std::string_view kBefore[] = {"WHERE", "AND", "OR", "NOT", "ON", "HAVING",

@@ -74,7 +74,8 @@ bool PrefixRange(std::string_view pattern, std::string* low, std::string* high);
 
 // Where a parameter of the translated statement takes its value from.
 struct Bind {
-  enum class Part { kValue, kLow, kHigh };
+  // kPattern: a LIKE pattern made into a regular expression (PatternRegex).
+  enum class Part { kValue, kLow, kHigh, kPattern };
   size_t value;
   Part part;
 };
@@ -88,6 +89,24 @@ struct Translation {
 // Raises 3075 for an INSERT ... SELECT whose selected columns have no name.
 Translation Translate(const Tokens& tokens, const std::vector<Literal>& values,
                       const IndexedTextColumns& indexed, const std::vector<bool>& ranged);
+
+// "SELECT [DISTINCT] TOP n ..." made "SELECT ... LIMIT n".
+void RewriteTop(Tokens& tokens);
+
+// "INSERT INTO t SELECT a, b ..." given the column list "(a, b)"; raises
+// 3075 for a selected column without a name.
+void AddInsertColumns(Tokens& tokens);
+
+// The same shape for a PostgreSQL server, parameters written $1, $2, ...:
+// TOP, INSERT ... SELECT and "&" as in Translate; "x [NOT] LIKE ?" a
+// case-blind regular expression match (the parameter's part kPattern); an
+// INSERT into a table whose counter is `counter` (empty: none) returns the
+// new key.
+Translation TranslateForServer(const Tokens& tokens, const std::string& counter);
+
+// The regular expression that matches exactly what the original engine's
+// LIKE pattern does: * ? # [..] [!..], everything else literally.
+std::string PatternRegex(std::string_view pattern);
 
 }  // namespace zerbal::data
 

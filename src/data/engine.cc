@@ -1,19 +1,17 @@
 #include "data/engine.h"
 
 #include <atomic>
-#include <list>
+#include <limits>
 
 #include "base/convert.h"
 #include "base/raise.h"
+#include "base/text.h"
 #include "data/collation.h"
 #include "data/like_pattern.h"
+#include "data/recordset_state.h"
 
 namespace zerbal::data {
 namespace {
-
-// Connections kept per thread; a few cover the data and the lookup database
-// with room for a second pair, and bound the open files.
-constexpr size_t kKeptConnections = 4;
 
 std::atomic<int64_t> g_busy_timeout_ms{5000};
 
@@ -88,15 +86,14 @@ IndexedTextColumns FindIndexedTextColumns(sqlite3* db) {
   return names;
 }
 
-struct Kept {
-  std::string path;
-  bool read_only;
-  std::shared_ptr<EngineConnection> connection;
-};
-
-std::list<Kept>& KeptConnections() {
-  thread_local std::list<Kept> kept;
-  return kept;
+bool IsCounter(sqlite3* db, const std::string& table, const std::string& column) {
+  const char* type = nullptr;
+  int primary = 0;
+  if (sqlite3_table_column_metadata(db, "main", table.c_str(), column.c_str(), &type, nullptr,
+                                    nullptr, &primary, nullptr) != SQLITE_OK) {
+    return false;
+  }
+  return primary != 0 && type != nullptr && SameText(type, "INTEGER");
 }
 
 }  // namespace
@@ -156,11 +153,12 @@ void EngineConnection::Configure(bool write_ahead_log, bool read_only) {
   // The log is emptied into the file after every change (see engine.h).
   sqlite3_wal_hook(db, EmptyLog, nullptr);
   indexed_ = FindIndexedTextColumns(db);
-  identity_ = InspectFile(path_);
+  identity_ = InspectFile(path());
 }
 
 void EngineConnection::Retire() {
   if (!handle_.get()) return;
+  set_retired();
   statements_.Clear();
   // A connection whose file was replaced must not checkpoint, nor delete the
   // log and index that now sit beside another file: it just lets go.
@@ -185,8 +183,8 @@ bool EngineConnection::IsCurrent() const {
   try {
     // A file read as it stands, in a folder that can be written again, is
     // opened again to be written.
-    if (folder_read_only_ && !FolderReadOnly(path_)) return false;
-    return InspectFile(path_) == identity_;
+    if (folder_read_only_ && !FolderReadOnly(path())) return false;
+    return InspectFile(path()) == identity_;
   } catch (const Error&) {
     return false;
   }
@@ -194,33 +192,87 @@ bool EngineConnection::IsCurrent() const {
 
 void EngineConnection::NoteOwnWrite() {
   try {
-    identity_ = InspectFile(path_);
+    identity_ = InspectFile(path());
   } catch (const Error&) {
     identity_ = FileIdentity{};  // gone: the next use opens afresh and says why
   }
 }
 
-std::shared_ptr<EngineConnection> AcquireConnection(const std::string& path, bool read_only) {
-  std::list<Kept>& kept = KeptConnections();
-  for (auto it = kept.begin(); it != kept.end(); ++it) {
-    if (it->path != path || it->read_only != read_only) continue;
-    if (it->connection->IsCurrent()) {
-      kept.splice(kept.begin(), kept, it);
-      it->connection->inserted_key().Forget();  // a key read back belongs to its own call
-      sqlite3_busy_timeout(it->connection->db(), static_cast<int>(g_busy_timeout_ms.load()));
-      return it->connection;
-    }
-    it->connection->Retire();  // before the file at the path is opened again
-    kept.erase(it);
-    break;
+void EngineConnection::Reused() {
+  inserted_key_.Forget();  // a key read back belongs to its own call
+  sqlite3_busy_timeout(handle_.get(), static_cast<int>(g_busy_timeout_ms.load()));
+}
+
+void EngineConnection::Execute(std::string_view sql) {
+  inserted_key_.Forget();
+  sqlite3* db = handle_.get();
+  BoundStatement stmt = Prepare(sql);
+  if (sqlite3_column_count(stmt.get()) > 0) Raise(errc::kSelectInExecute, {}, kEngineSource);
+  int rc;
+  while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
   }
-  auto conn = EngineConnection::Open(path, read_only);
-  kept.push_front({path, read_only, conn});
-  if (kept.size() > kKeptConnections) {
-    kept.back().connection->Retire();
-    kept.pop_back();
+  // Even a failed statement may have written (and rolled back) pages.
+  NoteOwnWrite();
+  if (rc != SQLITE_DONE) RaiseEngineError(rc, db);
+  if (stmt.definition()) TablesChanged();
+  inserted_key_.AfterStatement(stmt.key_use(), sqlite3_changes64(db), sqlite3_last_insert_rowid(db));
+}
+
+void EngineConnection::Query(std::string_view sql, RecordsetState& out) {
+  sqlite3* db = handle_.get();
+  BoundStatement stmt = Prepare(sql);
+  const int columns = sqlite3_column_count(stmt.get());
+  if (columns == 0) Raise(errc::kInvalidOperation, {}, kEngineSource);
+  for (int c = 0; c < columns; ++c) out.names.emplace_back(sqlite3_column_name(stmt.get(), c));
+  const auto key = inserted_key_.ReadBack(
+      stmt.key_use(), [&](const std::string& t, const std::string& c) { return IsCounter(db, t, c); });
+  if (key) {
+    out.values.push_back(Variant(static_cast<int32_t>(*key)));
+    out.rows = 1;
+    return;
   }
-  return conn;
+  int rc;
+  while ((rc = sqlite3_step(stmt.get())) == SQLITE_ROW) {
+    if (out.rows == std::numeric_limits<int32_t>::max()) Raise(errc::kOutOfMemory);
+    for (int c = 0; c < columns; ++c) out.values.push_back(ColumnValue(stmt.get(), c));
+    ++out.rows;
+  }
+  if (rc != SQLITE_DONE) RaiseEngineError(rc, db);
+}
+
+void EngineConnection::Begin() { ExecScript(handle_.get(), "BEGIN IMMEDIATE"); }
+
+void EngineConnection::Commit() {
+  ExecScript(handle_.get(), "COMMIT");
+  NoteOwnWrite();
+}
+
+void EngineConnection::Rollback() noexcept {
+  sqlite3_exec(handle_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+  NoteOwnWrite();
+  try {
+    TablesChanged();  // the tables may be as they were before it began
+  } catch (...) {
+    // The statements are forgotten all the same; the indexes only help LIKE.
+  }
+}
+
+void EngineConnection::CheckWritable() {
+  if (sqlite3_db_readonly(handle_.get(), "main") == 1) Raise(errc::kReadOnly, path(), kEngineSource);
+  Begin();
+  Rollback();
+}
+
+TableSchema EngineConnection::ReadTable(std::string_view name) {
+  return ReadTableSchema(handle_.get(), name);
+}
+
+std::vector<std::string> EngineConnection::TableNames() { return data::TableNames(handle_.get()); }
+
+EngineConnection& SqliteOf(Connection& connection) {
+  auto* sqlite = dynamic_cast<EngineConnection*>(&connection);
+  if (sqlite == nullptr) Raise(errc::kInvalidOperation, "not a database file", kEngineSource);
+  return *sqlite;
 }
 
 void ExecScript(sqlite3* db, const std::string& sql) {

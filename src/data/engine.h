@@ -24,6 +24,7 @@
 #include <string>
 #include <string_view>
 
+#include "data/connection.h"
 #include "data/dialect.h"
 #include "data/file_identity.h"
 #include "data/inserted_key.h"
@@ -40,12 +41,8 @@ inline constexpr int32_t kApplicationId = 0x7A72626C;
 // that opens a file calls it first.
 void PrepareEngine();
 
-// How long a statement waits for another process's lock before it fails with
-// 3260. The default suits people; tests shorten it.
-std::chrono::milliseconds BusyTimeout();
-void SetBusyTimeout(std::chrono::milliseconds timeout);
-
-class EngineConnection {
+// A SQLite file behind the seam of data/connection.h.
+class EngineConnection final : public Connection {
  public:
   // Checks the path and opens it. Never creates a file: a missing file is
   // 3024, a missing folder or empty path 3044, a folder or unreadable file
@@ -54,24 +51,27 @@ class EngineConnection {
   // opened read-only, so reads work and writes fail with 3027.
   static std::shared_ptr<EngineConnection> Open(const std::string& path, bool read_only);
 
-  ~EngineConnection();
-  EngineConnection(const EngineConnection&) = delete;
-  EngineConnection& operator=(const EngineConnection&) = delete;
+  ~EngineConnection() override;
 
   sqlite3* db() const { return handle_.get(); }
 
-  // Closes the engine connection (its statements first); any later use
-  // through a database that still holds it raises 3420.
-  void Retire();
-  bool retired() const { return handle_.get() == nullptr; }
-  const std::string& path() const { return path_; }
+  void Retire() override;
+  bool IsCurrent() const override;
+  void Reused() override;
+  void Execute(std::string_view sql) override;
+  void Query(std::string_view sql, RecordsetState& out) override;
+  std::string Translate(std::string_view sql) const override;
+  void Begin() override;
+  void Commit() override;
+  void Rollback() noexcept override;
+  void CheckWritable() override;
+  TableSchema ReadTable(std::string_view name) override;
+  std::vector<std::string> TableNames() override;
+  void ChangeTable(const TableChange& change) override;
 
   // The statement prepared (once per shape) with this call's values bound.
   // Raises 3075, 3129 or 3142 for text that cannot run (see dialect.h).
   BoundStatement Prepare(std::string_view sql);
-
-  // The statement in the engine's own SQL, values written in (see dialect.h).
-  std::string Translate(std::string_view sql) const;
 
   // The key of this connection's own last insert, for the query that
   // reads it back (see inserted_key.h).
@@ -81,20 +81,18 @@ class EngineConnection {
   // at again.
   void TablesChanged();
 
-  // Whether this connection still stands for what is at its path: the file
-  // is the one it opened and nobody has written it since its last use here.
-  bool IsCurrent() const;
+  // IsCurrent: the file at its path is the one it opened and nobody has
+  // written it since its last use here.
 
   // Takes note of the file as this connection's own statements left it.
   void NoteOwnWrite();
 
  private:
   EngineConnection(DbHandle handle, std::string path, FileIdentity identity)
-      : handle_(std::move(handle)), path_(std::move(path)), identity_(identity) {}
+      : Connection(std::move(path)), handle_(std::move(handle)), identity_(identity) {}
   void Configure(bool write_ahead_log, bool read_only);
 
   DbHandle handle_;
-  std::string path_;
   FileIdentity identity_;
   bool folder_read_only_ = false;  // opened as a file nobody changes
   IndexedTextColumns indexed_;
@@ -102,9 +100,8 @@ class EngineConnection {
   InsertedKey inserted_key_;
 };
 
-// The connection for `path` on this thread: a kept one when it is still
-// current, a new one otherwise.
-std::shared_ptr<EngineConnection> AcquireConnection(const std::string& path, bool read_only);
+// The SQLite connection behind `connection`; 3219 for another engine's.
+EngineConnection& SqliteOf(Connection& connection);
 
 // Runs several statements of trusted SQL (the schema scripts); errors are
 // raised as numbered errors.

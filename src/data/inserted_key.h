@@ -8,8 +8,6 @@
 #ifndef ZERBAL_DATA_INSERTED_KEY_H_
 #define ZERBAL_DATA_INSERTED_KEY_H_
 
-#include <sqlite3.h>
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -30,13 +28,29 @@ KeyUse KeyUseOf(const Tokens& tokens);
 
 class InsertedKey {
  public:
-  // After each statement that ran to its end: remembers the key of a
-  // one-row INSERT, forgets it after anything else.
-  void AfterStatement(sqlite3* db, const KeyUse& use);
+  // After each statement that ran to its end: remembers `key` when it was
+  // a one-row INSERT (`rows` changed), forgets it after anything else.
+  void AfterStatement(const KeyUse& use, int64_t rows, int64_t key) {
+    if (!use.insert_table.empty() && rows == 1) {
+      table_ = use.insert_table;
+      key_ = key;
+    } else {
+      table_.clear();
+    }
+  }
 
-  // The remembered key when `use` is the query that reads it back; it is
-  // forgotten either way.
-  std::optional<int64_t> ReadBack(sqlite3* db, KeyUse& use);
+  // The remembered key when `use` is the query that reads it back;
+  // `is_counter(table, column)` says, once per shape, whether the column
+  // read is the table's counter. The key is forgotten either way.
+  template <typename IsCounter>
+  std::optional<int64_t> ReadBack(KeyUse& use, IsCounter&& is_counter) {
+    const bool match = !table_.empty() && use.max_table == table_;
+    table_.clear();
+    if (!match) return std::nullopt;
+    if (use.counter < 0) use.counter = is_counter(use.max_table, use.max_column) ? 1 : 0;
+    if (use.counter == 0) return std::nullopt;
+    return key_;
+  }
 
   void Forget() { table_.clear(); }
 

@@ -2,6 +2,7 @@ list(APPEND ZERBAL_SOURCES
   data/buffers.cc
   data/busy_pointer.cc
   data/conexion_dao.cc
+  data/connection.cc
   data/conexion_dao_binding.cc
   data/database.cc
   data/data_schema.cc
@@ -16,10 +17,16 @@ list(APPEND ZERBAL_SOURCES
   data/collation.cc
   data/file_identity.cc
   data/like_pattern.cc
+  data/pg.cc
+  data/pg_dialect.cc
+  data/pg_engine.cc
+  data/pg_schema.cc
+  data/pg_tables.cc
   data/queries.cc
   data/recordset.cc
   data/recordset_binding.cc
   data/sqlite.cc
+  data/sqlite_table_change.cc
   data/table_defs.cc
   data/table_schema.cc
   data/transaction.cc

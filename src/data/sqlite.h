@@ -8,12 +8,10 @@
 
 #include <string_view>
 
+#include "data/connection.h"
 #include "zerbal/variant.h"
 
 namespace zerbal::data {
-
-// Source of every error that the database layer raises.
-inline constexpr std::string_view kEngineSource = "zerbal.Database";
 
 // Raises the error that the engine's result code `rc` stands for, with the
 // engine's own message (taken from `db` when given) after the number's text.

@@ -28,7 +28,7 @@ class Transaction {
   void Commit();
 
  private:
-  std::shared_ptr<EngineConnection> conn_;
+  std::shared_ptr<Connection> conn_;
   bool open_ = false;
 };
 

@@ -30,7 +30,7 @@ class DialectTest : public test::DatabaseTest {
   }
   // The engine's plan for the statement as the layer translates it.
   std::string Plan(const std::string& sql) {
-    auto conn = data::AcquireConnection(mod_, false);
+    auto conn = data::EngineConnection::Open(mod_, false);
     const std::string explain = "EXPLAIN QUERY PLAN " + conn->Translate(sql);
     sqlite3_stmt* stmt = nullptr;
     std::string plan;

@@ -55,10 +55,9 @@ void FillEarlier(const std::string& mod, int schema) {
 std::vector<std::string> SchemaLines(const std::string& path) {
   data::Workspace workspace("test", "admin", "", 2);
   const data::Database db = workspace.OpenDatabase(path, false, false, "");
-  sqlite3* handle = db.Engine()->db();
   std::vector<data::TableSchema> tables;
-  for (const std::string& name : data::TableNames(handle)) {
-    tables.push_back(data::ReadTableSchema(handle, name));
+  for (const std::string& name : db.Engine()->TableNames()) {
+    tables.push_back(db.Engine()->ReadTable(name));
   }
   return Lines(std::move(tables));
 }

@@ -1,0 +1,96 @@
+// The system's SQL for a PostgreSQL server.
+
+#include <string>
+
+#include "base/text.h"
+#include "data/dialect.h"
+
+namespace zerbal::data {
+namespace {
+
+// A deterministic collation that folds every letter the way LIKE must:
+// the server's regular expressions take case from it.
+constexpr std::string_view kFoldingCollation = " COLLATE \"und-x-icu\" ";
+
+void AppendEscaped(std::string& out, char32_t c) {
+  static constexpr std::string_view kSpecial = "\\^$.|?*+()[]{}";
+  if (c < 0x80 && kSpecial.find(static_cast<char>(c)) != std::string_view::npos) out += '\\';
+  AppendUtf8(&out, c);
+}
+
+}  // namespace
+
+std::string PatternRegex(std::string_view pattern) {
+  std::u32string p;
+  for (size_t pos = 0; pos < pattern.size();) {
+    size_t size = 1;
+    p.push_back(DecodeAt(pattern, pos, &size));
+    pos += size;
+  }
+  std::string out = "^";
+  for (size_t i = 0; i < p.size(); ++i) {
+    const char32_t c = p[i];
+    if (c == U'*') {
+      out += ".*";
+    } else if (c == U'?') {
+      out += '.';
+    } else if (c == U'#') {
+      out += "[0-9]";
+    } else if (c == U'[') {
+      // The set ends at the first "]" after its first member; without one
+      // the "[" stands for itself.
+      size_t k = i + 1;
+      const bool negate = k < p.size() && p[k] == U'!';
+      if (negate) ++k;
+      size_t end = k;
+      for (bool first = true; end < p.size() && (p[end] != U']' || first); ++end) first = false;
+      if (end >= p.size()) {
+        AppendEscaped(out, c);
+        continue;
+      }
+      out += negate ? "[^" : "[";
+      for (size_t m = k; m < end; ++m) {
+        if (p[m] == U'-' && m != k && m + 1 != end) {
+          out += '-';
+        } else {
+          out += '\\';  // every member literally (escapes stand inside sets too)
+          AppendUtf8(&out, p[m]);
+        }
+      }
+      out += ']';
+      i = end;
+    } else {
+      AppendEscaped(out, c);
+    }
+  }
+  return out + "$";
+}
+
+Translation TranslateForServer(const Tokens& tokens, const std::string& counter) {
+  Tokens t = tokens;
+  Translation out;
+  size_t value = 0;
+  for (size_t i = 0; i < t.size(); ++i) {
+    if (t[i].kind == Tok::kParam) {
+      const size_t before = Prev(t, i);
+      const bool pattern = Is(t, before, "LIKE");
+      out.binds.push_back({value++, pattern ? Bind::Part::kPattern : Bind::Part::kValue});
+      t[i].text = "$" + std::to_string(out.binds.size());
+    } else if (t[i].kind == Tok::kPunct && t[i].text == "&") {
+      t[i].text = "||";
+    } else if (Is(t, i, "LIKE")) {
+      const size_t before = Prev(t, i);
+      const bool negated = Is(t, before, "NOT");
+      if (negated) t[before].text.clear();
+      t[i] = {Tok::kPunct, std::string(kFoldingCollation) + (negated ? "!~*" : "~*")};
+    }
+  }
+  RewriteTop(t);
+  AddInsertColumns(t);
+  for (const Token& token : t) out.sql += token.text;
+  const size_t first = Next(tokens, 0);
+  if (!counter.empty() && Is(tokens, first, "INSERT")) out.sql += " RETURNING " + counter;
+  return out;
+}
+
+}  // namespace zerbal::data
