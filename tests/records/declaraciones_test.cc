@@ -1,6 +1,6 @@
 #include "zerbal/declaraciones.h"
 
-#include "testutil.h"
+#include "prefijo.h"
 
 namespace zerbal {
 namespace {
@@ -115,28 +115,18 @@ TEST_F(DeclaracionesTest, MaxEjerMonChoosesItsQuery) {
 }
 
 TEST_F(DeclaracionesTest, UnknownCodesAndBrokenDatabasesGiveTheirPrefixes) {
-  const struct {
-    std::function<void()> call;
-    const char* prefix;
-    int32_t number;
-  } rows[] = {
-      {[&] { declaraciones_.ObtenerEjercicioDcion(9); }, "clDeclaraciones.ObtenerEjercicioDcion ", 3021},
-      {[&] { declaraciones_.ObtenerMonedaDcion(9); }, "cDeclaraciones.ObtenerMonedaDcion ", 3021},
-      {[&] { declaraciones_.ObtenerMonedaDcion("x"); }, "cDeclaraciones.ObtenerMonedaDcion ", 13},
-  };
-  for (const auto& row : rows) {
-    const auto error = test::ErrorOf(row.call);
-    ASSERT_TRUE(error) << row.prefix;
-    EXPECT_EQ(error->Number(), row.number) << row.prefix;
-    EXPECT_EQ(error->Description().rfind(row.prefix, 0), 0u) << error->Description();
-  }
   cDeclaraciones lost;
   lost.mdbmod((dir_ / "gone.db").string());
-  EXPECT_EQ(test::ErrorOf([&] { lost.EliminarDeclaracion(1); })->Description().rfind("Could not", 0),
-            0u)
-      << "no handler: raised unchanged";
-  const auto listed = test::ErrorOf([&] { lost.ObtenerDeclaraciones(1); });
-  EXPECT_EQ(listed->Description().rfind("cDatosGeneralT.ObtenerDeclaraciones Could not", 0), 0u);
+  test::ExpectPrefixes({
+      {"clDeclaraciones.ObtenerEjercicioDcion No current record.",
+       [&] { declaraciones_.ObtenerEjercicioDcion(9); }},
+      {"cDeclaraciones.ObtenerMonedaDcion No current record.",
+       [&] { declaraciones_.ObtenerMonedaDcion(9); }},
+      {"cDeclaraciones.ObtenerMonedaDcion Type mismatch",
+       [&] { declaraciones_.ObtenerMonedaDcion("x"); }},
+      {"Could not", [&] { lost.EliminarDeclaracion(1); }},  // no handler: raised unchanged
+      {"cDatosGeneralT.ObtenerDeclaraciones Could not", [&] { lost.ObtenerDeclaraciones(1); }},
+  });
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "zerbal/declarante.h"
 
-#include "testutil.h"
+#include "prefijo.h"
 #include "zerbal/declaraciones.h"
 
 namespace zerbal {
@@ -101,20 +101,14 @@ TEST_F(DeclaranteTest, DeletingWithDeclarationsTouchesOnlyItsOwnRows) {
 }
 
 TEST_F(DeclaranteTest, ListErrorsCarryBothPrefixes) {
-  Add("11111111H");
   test::Exec(mod_, "DROP TABLE TDeclarante");
-  const auto error = test::ErrorOf([&] { declarante_.ObtenerDeclarantes(); });
-  ASSERT_TRUE(error);
-  EXPECT_EQ(error->Description().rfind(
-                "cDeclarante.ObtenerDeclarantes cTDeclarante.ObtenerDeclarantes Syntax error", 0),
-            0u)
-      << error->Description();
-  const auto latest = test::ErrorOf([&] { declarante_.ObtenerUltimosDeclarantes(); });
-  ASSERT_TRUE(latest);
-  EXPECT_NE(latest->Description().find("cTDeclarante.ObtenerUltimosDeclarantes"), std::string::npos);
-  const auto deletion = test::ErrorOf([&] { declarante_.EliminarDeclarante(1); });
-  ASSERT_TRUE(deletion);
-  EXPECT_EQ(deletion->Description().rfind("cDeclarante.EliminarDeclarante ", 0), 0u);
+  test::ExpectPrefixes({
+      {"cDeclarante.ObtenerDeclarantes cTDeclarante.ObtenerDeclarantes Syntax error",
+       [&] { declarante_.ObtenerDeclarantes(); }},
+      {"cDeclarante.ObtenerUltimosDeclarantes cTDeclarante.ObtenerUltimosDeclarantes ",
+       [&] { declarante_.ObtenerUltimosDeclarantes(); }},
+      {"cDeclarante.EliminarDeclarante ", [&] { declarante_.EliminarDeclarante(1); }},
+  });
 }
 
 }  // namespace

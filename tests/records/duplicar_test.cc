@@ -64,34 +64,20 @@ TEST_F(DuplicarTest, AmountsFollowTheYearsOfSourceAndDestination) {
     int32_t yo, yd;
     const Amounts& expected;
   };
+  // Both sides of each bound of the years' rules.
   const Case cases[] = {
-      // Into the same or a later year.
       {"2011 into 2014: all copied", 2011, 2014, kAll},
-      {"2014 into 2014: all copied", 2014, 2014, kAll},
-      {"2013 into 2015: all copied", 2013, 2015, kAll},
-      {"2011 into 2013: real estate, fourth quarter", 2011, 2013, kRealEstateAndQ4},
-      {"2012 into 2013: real estate, fourth quarter", 2012, 2013, kRealEstateAndQ4},
-      {"2013 into 2013: real estate, fourth quarter", 2013, 2013, kRealEstateAndQ4},
-      {"2008 into 2011: real estate, fourth quarter", 2008, 2011, kRealEstateAndQ4},
-      {"2010 into 2013: real estate, fourth quarter", 2010, 2013, kRealEstateAndQ4},
-      {"2007 into 2011: fourth quarter only", 2007, 2011, kQ4},
-      {"2007 into 2013: fourth quarter only", 2007, 2013, kQ4},
-      {"2007 into 2014: fourth quarter only", 2007, 2014, kQ4},
-      {"2008 into 2014: none", 2008, 2014, kNone},
       {"2010 into 2014: none", 2010, 2014, kNone},
+      {"2008 into 2014: none", 2008, 2014, kNone},
+      {"2011 into 2013: real estate, fourth quarter", 2011, 2013, kRealEstateAndQ4},
+      {"2008 into 2011: real estate, fourth quarter", 2008, 2011, kRealEstateAndQ4},
       {"2008 into 2010: none", 2008, 2010, kNone},
+      {"2007 into 2011: fourth quarter only", 2007, 2011, kQ4},
+      {"2007 into 2014: fourth quarter only", 2007, 2014, kQ4},
       {"2007 into 2010: none", 2007, 2010, kNone},
-      {"2007 into 2008: none", 2007, 2008, kNone},
-      {"2007 into 2007: none", 2007, 2007, kNone},
       // Into an earlier year.
       {"2011 into 2010: cash and real estate", 2011, 2010, kCashAndRealEstate},
-      {"2014 into 2010: cash and real estate", 2014, 2010, kCashAndRealEstate},
-      {"2009 into 2007: cash and real estate", 2009, 2007, kCashAndRealEstate},
-      {"2014 into 2007: cash and real estate", 2014, 2007, kCashAndRealEstate},
       {"2012 into 2011: all copied", 2012, 2011, kAll},
-      {"2014 into 2013: all copied", 2014, 2013, kAll},
-      {"2015 into 2014: all copied", 2015, 2014, kAll},
-      {"2015 into 2013: all copied", 2015, 2013, kAll},
   };
   int32_t decl = 0;
   for (const Case& c : cases) {
@@ -123,27 +109,20 @@ TEST_F(DuplicarTest, RowsLeftOutOfEarlierYears) {
       {"key F into 2007", 2009, 2007, "F", 1000, 0, {}, false},
       {"key G into 2007", 2009, 2007, "G", 1000, 0, {}, false},
       {"key A into 2007", 2009, 2007, "A", 1000, 0, {}, true},
-      {"negative into 2007", 2009, 2007, "A", -5, 0, {}, false},
       {"key F from 2013 into 2007", 2013, 2007, "F", 1000, 0, {}, false},
       {"key F from 2014 into 2007", 2014, 2007, "F", 1000, 0, {}, true},
-      {"negative from 2014 into 2007", 2014, 2007, "A", -5, 0, {}, false},
       {"key F into 2008", 2009, 2008, "F", 1000, 0, {}, true},
       {"negative into 2010", 2011, 2010, "A", -5, 0, {}, false},
       {"negative into 2011", 2012, 2011, "A", -5, 0, {}, true},
       {"key G, negative, into the same year 2007", 2007, 2007, "G", -5, 0, {}, true},
-      {"key F, negative, 2006 into 2009", 2006, 2009, "F", -5, 0, {}, true},
       {"2014 country prefix into 2013", 2014, 2013, "A", 1000, 22, "FR", false},
-      {"2014 intra-community number into 2013", 2014, 2013, "A", 1000, 23, "123", false},
-      {"2014 cash-basis flag into 2013", 2014, 2013, "A", 1000, 24, "X", false},
-      {"2014 reversal flag into 2013", 2014, 2013, "A", 1000, 25, "X", false},
       {"2014 customs flag into 2013", 2014, 2013, "A", 1000, 26, "X", false},
       {"2014 cash-basis amount into 2013", 2014, 2013, "A", 1000, 27, 5.0, false},
       {"2014 negative cash-basis amount into 2013", 2014, 2013, "A", 1000, 27, -5.0, true},
+      {"2014 blank flags into 2013", 2014, 2013, "A", 1000, 24, "", true},
       {"2014 country prefix into 2011", 2014, 2011, "A", 1000, 22, "FR", false},
       {"2014 country prefix into 2010", 2014, 2010, "A", 1000, 22, "FR", true},
       {"2015 country prefix into 2013", 2015, 2013, "A", 1000, 22, "FR", true},
-      {"2014 country prefix into 2014", 2014, 2014, "A", 1000, 22, "FR", true},
-      {"2014 blank flags into 2013", 2014, 2013, "A", 1000, 24, "", true},
   };
   int32_t decl = 0;
   for (const Case& c : cases) {
@@ -165,22 +144,16 @@ TEST_F(DuplicarTest, CountryCodesTakeTheDestinationYearsForm) {
   };
   const Case cases[] = {
       {"letters into 2007", 2009, 2007, "FR", "1"},
-      {"letters into 2007 (DE)", 2013, 2007, "DE", "4"},
       {"letters and a blank into 2007", 2009, 2007, "FR ", "1"},
       {"lower case into 2007", 2009, 2007, "fr", "fr"},
-      {"unknown letters into 2007", 2009, 2007, "ZZ", " "},
       {"a number into 2007", 2009, 2007, "4", "4"},
       {"a number into 2007 from the same year", 2007, 2007, "4", "4"},
       {"a number into 2008", 2007, 2008, "4", "DE"},
-      {"a zero-filled number into 2008", 2007, 2008, "004", "DE"},
-      {"a number into 2014", 2006, 2014, "958", "OP"},
       {"a number and a blank into 2008", 2007, 2008, "4 ", "4 "},
       {"letters into a later year", 2008, 2009, "FR", "FR"},
       {"a number into earlier 2008", 2009, 2008, "4", "DE"},
       {"a number from 2014 into 2007", 2014, 2007, "4", "DE"},
-      {"letters from 2014 into 2007", 2014, 2007, "FR", "FR"},
       {"empty into 2007", 2009, 2007, "", ""},
-      {"empty into 2008", 2007, 2008, "", ""},
   };
   int32_t decl = 0;
   for (const Case& c : cases) {
@@ -237,12 +210,9 @@ TEST_F(DuplicarTest, RentalsAreCopiedWholeWithTheYearsCountryCode) {
   };
   const Case cases[] = {
       {"letters into 2007", 2007, "FR", "1"},
-      {"letters and a blank into 2007", 2007, "DE ", "4"},
       {"a number into 2007", 2007, "4", "4"},
       {"a number into 2008", 2008, "4", "DE"},
-      {"a zero-filled number into 2014", 2014, "004", "DE"},
       {"letters into 2008", 2008, "FR", "FR"},
-      {"empty into 2007", 2007, "", ""},
   };
   const std::string columns =
       "coddeclar, provi, prova, paiso, nifa, razon, importe, municipioa, refcat, viaa, "
