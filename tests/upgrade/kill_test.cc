@@ -2,7 +2,6 @@
 // either as before or whole, the copy holds the database as it was, and a
 // second run completes the work as an uninterrupted one does.
 
-#include <sqlite3.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -38,20 +37,14 @@ const struct {
 };
 
 void FillMany(const std::string& mod, int operations) {
-  sqlite3* db = nullptr;
-  sqlite3_open(mod.c_str(), &db);
   const std::string n = std::to_string(operations);
-  sqlite3_exec(db,
-               ("WITH RECURSIVE c(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < " + n +
-                ") INSERT INTO tOperadores (coddeclar, provo, paiso, nifo, razon, claveopo, "
-                "importe, claverep) SELECT i % 40, 20, (i % 3) * 100, 'B' || i, 'Razon ' || i, "
-                "'A', i * 7, CASE i % 2 WHEN 0 THEN 'X' ELSE 'R' END FROM c; "
-                "WITH RECURSIVE c(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < " + n +
-                " / 10) INSERT INTO tArrendamientos (coddeclar, prova, paiso, nifa) SELECT i % 40, "
-                "CASE i % 4 WHEN 0 THEN 99 ELSE i % 50 END, 0, 'C' || i FROM c")
-                   .c_str(),
-               nullptr, nullptr, nullptr);
-  sqlite3_close(db);
+  test::Exec(mod, "WITH RECURSIVE c(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < " + n +
+                      ") INSERT INTO tOperadores (coddeclar, provo, paiso, nifo, razon, claveopo, "
+                      "importe, claverep) SELECT i % 40, 20, (i % 3) * 100, 'B' || i, 'Razon ' || "
+                      "i, 'A', i * 7, CASE i % 2 WHEN 0 THEN 'X' ELSE 'R' END FROM c");
+  test::Exec(mod, "WITH RECURSIVE c(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM c WHERE i < " + n +
+                      " / 10) INSERT INTO tArrendamientos (coddeclar, prova, paiso, nifa) SELECT "
+                      "i % 40, CASE i % 4 WHEN 0 THEN 99 ELSE i % 50 END, 0, 'C' || i FROM c");
 }
 
 // Every row of both tables the upgrade changes.

@@ -1,5 +1,4 @@
 list(APPEND ZERBAL_TEST_SOURCES
-  upgrade/export_upgraded_test.cc
   upgrade/kill_test.cc
   upgrade/traspaso_test.cc
   upgrade/upgrade_fixture.cc
