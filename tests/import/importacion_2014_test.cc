@@ -48,13 +48,11 @@ TEST_F(Importacion2014Test, EveryRuleOfAnOperationLine) {
   const std::vector<Row> rows = {
       {"valid", {}, {}},
       {"form 348", {{"347", "348"}}, {{25, "348"}}},
-      {"form blank", {{"347", ""}}, {{25, ""}}},
       {"year with a letter: no 44", {{"ejercicio", "20A4"}}, {{43, "20A4"}}},
       {"year after the accepted ones", {{"ejercicio", "2015"}}, {{44, "2015"}}},
       {"name blank", {{"razon", ""}}, {{1, ""}}},
       {"key blank: no 50", {{"claveopo", ""}}, {{17, ""}}},
       {"key H", {{"claveopo", "H"}}, {{50, "H"}}},
-      {"key in lower case", {{"claveopo", "a"}}, {{50, "a"}}},
       {"representative not R", {{"claverep", "Z"}}, {{34, "Z"}}},
       {"representative r", {{"claverep", "r"}}, {}},
       {"sign X and a letter: the sign check stands, the amount counts for nothing",

@@ -127,14 +127,12 @@ TEST(ModulosTest, TheDeclarationsYearChoosesTheModule) {
     int32_t year;
     Validar operations, rentals;
   } rows[] = {
-      {1990, ValidarDeclarado_2007, ValidarArrendamiento_2007},
       {2007, ValidarDeclarado_2007, ValidarArrendamiento_2007},
       {2008, ValidarDeclarado_2008, ValidarArrendamiento_2008},
       {2010, ValidarDeclarado_2008, ValidarArrendamiento_2008},
       {2011, ValidarDeclarado_2011, ValidarArrendamiento_2008},
       {2013, ValidarDeclarado_2011, ValidarArrendamiento_2008},
       {2014, ValidarDeclarado_2014, ValidarArrendamiento_2014},
-      {9999, ValidarDeclarado_2014, ValidarArrendamiento_2014},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(Importacion::ParDeclarados(row.year).validar, row.operations) << row.year;
