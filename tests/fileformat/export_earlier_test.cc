@@ -86,22 +86,6 @@ TEST(ExportEarlierTest, Reg3WithoutSignPosition) {
                          expected("2006", "000", 5)));
 }
 
-// Unsigned layouts have no place for a sign: the minus is kept and the record
-// grows, so the fault shows as a record of the wrong length, not as a changed
-// amount.
-TEST(ExportEarlierTest, NegativeAmountInAnUnsignedLayoutLengthensTheRecord) {
-  Variant op = OperacionAntigua("A", "FR");
-  op(6) = "-1234";
-  const std::string record = Export2008::GenerarReg2(2009, op, test::Declarante(), "E");
-  EXPECT_EQ(Mid(record, 76, 16), "-000000000001234");
-  EXPECT_EQ(Len(record), 181);
-
-  Variant arr = test::Arrendamiento();
-  arr(1) = "";
-  EXPECT_EQ(Len(Export2008::GenerarReg3(2009, arr, test::Declarante(), "E").AsString()), 179)
-      << "the negative amount adds one, the empty provi takes two";
-}
-
 TEST(ExportEarlierTest, AmountsReadAsNumbersRaise13) {
   Variant op = OperacionAntigua("A", "FR");
   op(8) = "";
