@@ -52,20 +52,11 @@ TEST(ExportEarlierTest, Reg2Of2008To2010) {
 }
 
 TEST(ExportEarlierTest, Reg2Of2007AndBeforeConvertsKeysAndCountryCodes) {
-  const struct {
-    const char* clave;
-    const char* paiso;
-    const char* written;  // positions 20 and 73-75
-  } rows[] = {{"G", "4", "A004"}, {"E", "DE", "E000"}};
-  for (const auto& row : rows) {
-    const std::string expected = "2" "347" "2006" "20" "12345678Z" + Mid(row.written, 1, 1) +
-                                 "B20000001" + test::kRazon40 + " " "01" + Mid(row.written, 2) +
-                                 "000000000001000" + " " "X" + Blanks(88);
-    EXPECT_TRUE(SameRecord(Export2007::GenerarReg2(2006, OperacionAntigua(row.clave, row.paiso),
-                                                   test::Declarante(), "E"),
-                           expected))
-        << row.clave << " " << row.paiso;
-  }
+  const std::string expected = "2" "347" "2006" "20" "12345678Z" "A" "B20000001" + test::kRazon40 +
+                               " " "01" "004" "000000000001000" " " "X" + Blanks(88);
+  EXPECT_TRUE(SameRecord(
+      Export2007::GenerarReg2(2006, OperacionAntigua("G", "4"), test::Declarante(), "E"), expected))
+      << "key G is A, country 4 is 004";
 }
 
 TEST(ExportEarlierTest, Reg3WithoutSignPosition) {
