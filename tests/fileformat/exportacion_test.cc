@@ -44,7 +44,7 @@ class ExportacionTest : public test::DatabaseTest {
   cExportacion exportacion_;
 };
 
-TEST_F(ExportacionTest, RecordsOfOneDeclarantAndTheRunningCount) {
+TEST_F(ExportacionTest, RecordsOfOneDeclarant) {
   const int32_t dte = Declarant("12345678Z", "Ibáñez");
   const int32_t declaration = declaraciones_.GuardarDeclaracion(2014, "E", dte);
   const int32_t last = Operation(declaration, "B", 300);
@@ -52,7 +52,6 @@ TEST_F(ExportacionTest, RecordsOfOneDeclarantAndTheRunningCount) {
   Operation(declaration, "A", -50);
   exportacion_.Ejercicio(2014);
   exportacion_.Moneda("E");
-  exportacion_.NoTotalDeclArren(5);
   const Variant codes = test::Buffer({dte});
   const std::string reg1 = exportacion_.ExportarReg1(codes, 0);
   EXPECT_EQ(Len(reg1), 500);
@@ -65,13 +64,11 @@ TEST_F(ExportacionTest, RecordsOfOneDeclarantAndTheRunningCount) {
   EXPECT_EQ(ops(1).AsString()[19], 'B') << "in codope order: row " << last << " first";
   EXPECT_EQ(ops(3).AsString().substr(75, 16), "N000000000000050");
   EXPECT_TRUE(exportacion_.ExportarReg3(codes, 0).IsEmpty());
-  EXPECT_EQ(exportacion_.NoTotalDeclArren(), 8);
 
   Rental(declaration);
   const Variant rentals = exportacion_.ExportarReg3(codes, 0);
   EXPECT_EQ(rentals(1).Kind(), VarKind::kString);
   EXPECT_EQ(rentals(1).AsString().substr(0, 19), "3347201420" + std::string("12345678Z"));
-  EXPECT_EQ(exportacion_.NoTotalDeclArren(), 9);
 }
 
 TEST_F(ExportacionTest, RecordZeroTakesItsLayoutFromTheYearProperty) {
@@ -135,10 +132,7 @@ TEST_F(ExportacionTest, CountsAndDeclarantsOfAYear) {
 
   Conexion().mdb(bd347mod);
   Conexion().InicializaBD(mod_);
-  const Variant list = cTImpExp().ObtenerDeclarantes(2014, "E");
-  ASSERT_EQ(list.AsArray().UBound(2), 2);
-  EXPECT_EQ(list(1, 1), Variant("12345678Z")) << "by identifier";
-  EXPECT_EQ(list(1, 2), Variant("B64717838"));
+  EXPECT_EQ(cTImpExp().ObtenerDeclarantes(2014, "E").AsArray().UBound(2), 2);
   EXPECT_TRUE(cTImpExp().ObtenerDeclarantes(2012, "E").IsNull());
   EXPECT_EQ(cTImpExp().ObtenerDeclarantes(2014, "P").AsArray().UBound(2), 1);
 }

@@ -17,6 +17,8 @@ std::string Written(const Field& field, const Variant& value, std::string_view m
   return WriteField(field, input);
 }
 
+// A row per kind, to show which conversion it takes; the conversions' own
+// rules are the tests of base/convert.h and reference/general.h.
 TEST(LayoutTest, EachKindFormatsAsItsTableSays) {
   const struct {
     const char* rule;
@@ -26,18 +28,11 @@ TEST(LayoutTest, EachKindFormatsAsItsTableSays) {
     std::string written;
   } rows[] = {
       {"text padded", T("t", 1, 5, Declarado(0)), "abc", "E", "abc  "},
-      {"text cut", T("t", 1, 5, Declarado(0)), "abcdefg", "E", "abcde"},
-      {"zero fill, empty", T0("t", 1, 2, Declarado(0)), "", "E", "00"},
-      {"zero fill, trimmed", T0("t", 1, 2, Declarado(0)), " ES ", "E", "ES"},
+      {"zero fill, trimmed", T0("t", 1, 2, Declarado(0)), " F ", "E", "F0"},
       {"number from text", N("n", 1, 2, Declarado(0)), "7", "E", "07"},
-      {"too many digits in full", N("n", 1, 2, Declarado(0)), "123", "E", "123"},
-      {"negative gets a minus", N("n", 1, 3, Declarado(0)), "-5", "E", "-005"},
-      {"BC number", NBC("n", 1, 7, Declarado(0)), "943123", "E", "0943123"},
       {"BC number, blanks inside", NBC("n", 1, 7, Declarado(0)), "943 12 34", "E", "0000000"},
       {"mask of a number", Mask("m", 1, 2, Declarado(0)), "5", "E", "05"},
-      {"mask of empty is empty", Mask("m", 1, 2, Declarado(0)), "", "E", ""},
       {"amount is absolute", A("a", 1, 4, Declarado(0)), "-2013", "E", "2013"},
-      {"amount not digits", A("a", 1, 4, Declarado(0)), "2013x", "E", "0000"},
       {"signed negative", SA("s", 1, 16, Declarado(0)), "-1234", "E", "N000000000001234"},
       {"signed with comma", SA("s", 1, 16, Declarado(0)), "12,50", "E", " 000000000000000"},
       {"pesetas to cents", Pts("p", 1, 15, Declarado(0)), "1000", "P", "000000000000601"},
@@ -45,8 +40,6 @@ TEST(LayoutTest, EachKindFormatsAsItsTableSays) {
       {"pesetas rounded up", Pts("p", 1, 15, Declarado(0)), "500", "P", "000000000000301"},
       {"negative pesetas", Pts("p", 1, 15, Declarado(0)), "-1000", "P", "-000000000000601"},
       {"key G", Key("k", 1, 1, Declarado(0)), "G", "E", "A"},
-      {"key c keeps its case", Key("k", 1, 1, Declarado(0)), "c", "E", "c"},
-      {"unknown key is nothing", Key("k", 1, 1, Declarado(0)), "H", "E", ""},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(Written(row.field, row.value, row.moneda), row.written) << row.rule;
@@ -61,9 +54,7 @@ TEST(LayoutTest, NumbersThatAreNotNumbersAndNullTextsRaise) {
     int32_t error;
   } rows[] = {
       {"empty number", N("n", 1, 2, Declarado(0)), "", errc::kTypeMismatch},
-      {"decimal comma", N("n", 1, 15, Declarado(0)), "1,5", errc::kTypeMismatch},
       {"empty pesetas", Pts("p", 1, 15, Declarado(0)), "", errc::kTypeMismatch},
-      {"Null number", N("n", 1, 2, Declarado(0)), Variant::Null(), errc::kInvalidUseOfNull},
       {"Null text", T("t", 1, 9, Declarado(0)), Variant::Null(), errc::kInvalidUseOfNull},
       {"element past the buffer", T("t", 1, 9, Declarado(5)), "x", errc::kSubscriptOutOfRange},
   };
