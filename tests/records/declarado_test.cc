@@ -201,6 +201,8 @@ TEST_F(DeclaradoTest, SeImportanTodosLooksAtEveryDeclarationForNewColumns) {
                         {"negative cash-basis amount", 27, -1.0, false},
                         {"country prefix", 22, "FR", true},
                         {"intra-community number alone", 23, "123", false},
+                        {"cash-basis flag", 24, "X", true},
+                        {"reversal flag", 25, "X", true},
                         {"customs flag", 26, "X", true}};
   int32_t key = 0;
   for (const Case& c : cases) {
