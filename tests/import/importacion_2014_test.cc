@@ -53,6 +53,7 @@ TEST_F(Importacion2014Test, EveryRuleOfAnOperationLine) {
       {"name blank", {{"razon", ""}}, {{1, ""}}},
       {"key blank: no 50", {{"claveopo", ""}}, {{17, ""}}},
       {"key H", {{"claveopo", "H"}}, {{50, "H"}}},
+      {"key in lower case", {{"claveopo", "a"}}, {{50, "a"}}},
       {"representative not R", {{"claverep", "Z"}}, {{34, "Z"}}},
       {"representative r", {{"claverep", "r"}}, {}},
       {"sign X and a letter: the sign check stands, the amount counts for nothing",
