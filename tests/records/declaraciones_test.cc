@@ -65,26 +65,27 @@ TEST_F(DeclaracionesTest, CountsAreSixteenBitNumbers) {
 }
 
 TEST_F(DeclaracionesTest, CopiedToAnotherYearLeavingTheSourceAlone) {
-  const int32_t source = declaraciones_.GuardarDeclaracion(2013, "E", 1);
+  const int32_t source = declaraciones_.GuardarDeclaracion(2010, "E", 1);
   AddOperation(source, "A", 1000);
   AddOperation(source, "F", -50, "4");
   AddRental(source);
   const Rows before = test::Rows(mod_, "SELECT * FROM tOperadores ORDER BY codope");
 
-  const int32_t copy = declaraciones_.DuplicarDeclaracion(2013, 2014, "E", source);
+  const int32_t copy = declaraciones_.DuplicarDeclaracion(2010, 2011, "E", source);
   EXPECT_EQ(copy, source + 1);
   EXPECT_EQ(test::Rows(mod_, "SELECT coddecr, ejercicio, moneda FROM TDeclaraciones WHERE coddecla = " +
                                  std::to_string(copy)),
-            (Rows{{1, 2014, "E"}}));
+            (Rows{{1, 2011, "E"}}));
   EXPECT_EQ(test::Rows(mod_, "SELECT claveopo, importe, paiso, impopeT4 FROM tOperadores WHERE "
                              "coddeclar = " + std::to_string(copy) + " ORDER BY codope"),
-            (Rows{{"A", 1000.0, "FR", 4.0}, {"F", -50.0, "DE", 4.0}}))
-      << "2013 into 2014: quarters copied, numeric country converted";
+            (Rows{{"A", 1000.0, "FR", 1000.0}, {"F", -50.0, "DE", -50.0}}))
+      << "2010 into 2011 (the other way the negative row would go): the fourth quarter is the "
+         "amount, a numeric country converted";
   EXPECT_EQ(declaraciones_.ObtenerTotalArrendamientos(copy), 1);
   EXPECT_EQ(test::Rows(mod_, "SELECT * FROM tOperadores WHERE coddeclar = " +
                                  std::to_string(source) + " ORDER BY codope"),
             before);
-  EXPECT_EQ(declaraciones_.ObtenerEjercicioDcion(copy), "2014");
+  EXPECT_EQ(declaraciones_.ObtenerEjercicioDcion(copy), "2011");
   EXPECT_EQ(declaraciones_.ObtenerMonedaDcion(Variant("2")), "E");
 }
 
