@@ -93,6 +93,10 @@ void Check(const Tokens& t, bool definition) {
       case Tok::kPunct:
         if (IsOneOf(t, i, kForeignOperators)) Refuse(token.text);
         break;
+      case Tok::kParam:
+        // Elsewhere a "?" is a value lifted out; a definition lifts none.
+        if (definition) Refuse(token.text);
+        break;
       case Tok::kWord: {
         if (IsOneOf(t, i, kForeignWords) || IsCatalogueName(token.text)) Refuse(token.text);
         // A temporary table or view; temp alone is a name (the upgrade's

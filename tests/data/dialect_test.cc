@@ -177,6 +177,7 @@ TEST_F(DialectTest, StatementsOutsideTheLanguageAreRefused) {
   EXPECT_RAISES(Run("  "), 3129);
   EXPECT_RAISES(Run("DELETE FROM TDeclarante WHERE"), 3075);
   EXPECT_RAISES(Run("DELETE FROM NoSuchTable"), 3075);
+  EXPECT_RAISES(Run("CREATE TABLE t AS SELECT ? AS x"), 3075);  // a definition lifts no value
   EXPECT_RAISES(Run("SELECT * FROM TDeclarante"), 3065);
   EXPECT_RAISES(Conexion().openRecordset("DELETE FROM TDeclarante"), 3219);
   EXPECT_EQ(Column("Select count(*) From TDeclarante"), (Strings{"5"}));
