@@ -8,9 +8,22 @@ zerbal_packages=(cmake g++ make pkg-config libsqlite3-dev sqlite3 libgtest-dev l
                  libpq-dev postgresql)
 
 zerbal_install_deps() {
+  zerbal_install_packages "${zerbal_packages[@]}"
+}
+
+# clang with the libFuzzer and sanitizer runtimes of its own version, for the
+# fuzz targets.
+zerbal_install_fuzz_deps() {
+  zerbal_install_packages clang
+  local runtime
+  runtime="libclang-rt-$(clang -dumpversion | cut -d. -f1)-dev"
+  if apt-cache show "$runtime" >/dev/null 2>&1; then zerbal_install_packages "$runtime"; fi
+}
+
+zerbal_install_packages() {
   local missing=()
   local p
-  for p in "${zerbal_packages[@]}"; do
+  for p in "$@"; do
     dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
   done
   [ ${#missing[@]} -eq 0 ] && return 0
@@ -27,4 +40,14 @@ zerbal_build() {
   root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
   cmake -S "$root" -B "$root/build" -DCMAKE_BUILD_TYPE="${ZERBAL_BUILD_TYPE:-Release}" "$@" >/dev/null
   cmake --build "$root/build" -j"$(nproc)"
+}
+
+# Configures and builds the fuzz targets into build-fuzz/ with clang; their
+# CTest runs take ZERBAL_FUZZ_SECONDS (30) each.
+zerbal_build_fuzz() {
+  local root
+  root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
+  CC=clang CXX=clang++ cmake -S "$root" -B "$root/build-fuzz" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DZERBAL_BUILD_FUZZ=ON -DZERBAL_FUZZ_SECONDS="${ZERBAL_FUZZ_SECONDS:-30}" >/dev/null
+  cmake --build "$root/build-fuzz" -j"$(nproc)"
 }
