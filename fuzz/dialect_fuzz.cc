@@ -1,8 +1,8 @@
 // The dialect on any SQL text: lifting the values out, checking the shape,
 // the LIKE ranges and the translation, then running the statement on a data
-// database made by `zerbal init`, inside a transaction that is rolled back
-// so that every input meets the same tables. Every refusal must be a
-// numbered error.
+// database made by `zerbal init` (any but a query inside a transaction that
+// is rolled back, so that every input meets the same tables). Every
+// refusal must be a numbered error.
 
 #include <cstddef>
 #include <cstdint>
@@ -48,14 +48,13 @@ Database& DataDatabase() {
 
 void Run(std::string_view sql) {
   Database& db = DataDatabase();
-  Transaction changes(db);  // rolled back
   const Tokens tokens = Tokenize(sql);
-  const size_t first = Next(tokens, 0);
-  if (Is(tokens, first, "SELECT")) {
-    db.OpenRecordset(sql);
-  } else {
-    db.Execute(sql);
+  if (Is(tokens, Next(tokens, 0), "SELECT")) {
+    db.OpenRecordset(sql);  // a query changes nothing
+    return;
   }
+  Transaction changes(db);  // rolled back
+  db.Execute(sql);
 }
 
 }  // namespace
