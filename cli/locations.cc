@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "base/raise.h"
+#include "data/connection.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::cli {
@@ -23,9 +24,7 @@ std::string Named(const std::string& given, std::string_view usual) {
 
 }  // namespace
 
-bool IsServerLocation(std::string_view location) {
-  return location.starts_with("postgresql://") || location.starts_with("postgres://");
-}
+bool IsServerLocation(std::string_view location) { return data::IsServerName(location); }
 
 bool LocationArgs::IsOption(std::string_view name) {
   return name == "--dir" || name == "--data" || name == "--lookup";

@@ -71,8 +71,8 @@ ServerDatabase::ServerDatabase() {
   if (server == nullptr) return;
   static std::atomic<int> counter{0};
   name_ = "zerbal_test_" + std::to_string(::getpid()) + "_" + std::to_string(counter++);
-  ServerExec(server, "DROP DATABASE IF EXISTS " + name_ + "; CREATE DATABASE " + name_ +
-                         " TEMPLATE template0 ENCODING 'UTF8'");
+  ServerExec(server, "DROP DATABASE IF EXISTS " + name_);
+  ServerExec(server, "CREATE DATABASE " + name_ + " TEMPLATE template0 ENCODING 'UTF8'");
   uri_ = WithDatabase(server, name_);
 }
 

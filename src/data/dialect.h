@@ -74,8 +74,9 @@ bool PrefixRange(std::string_view pattern, std::string* low, std::string* high);
 
 // Where a parameter of the translated statement takes its value from.
 struct Bind {
-  // kPattern: a LIKE pattern made into a regular expression (PatternRegex).
-  enum class Part { kValue, kLow, kHigh, kPattern };
+  // kPattern: a LIKE pattern made into a regular expression (PatternRegex);
+  // kNegated: the value with the sign written before it.
+  enum class Part { kValue, kLow, kHigh, kPattern, kNegated };
   size_t value;
   Part part;
 };

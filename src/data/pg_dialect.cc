@@ -18,6 +18,23 @@ void AppendEscaped(std::string& out, char32_t c) {
   AppendUtf8(&out, c);
 }
 
+// Whether the "-" at `i` is a sign rather than a subtraction: nothing that
+// ends a value stands before it.
+bool UnarySign(const Tokens& t, size_t i) {
+  const size_t before = Prev(t, i);
+  if (before == std::string::npos) return true;
+  const Token& b = t[before];
+  if (b.kind == Tok::kPunct) return b.text != ")";
+  if (b.kind != Tok::kWord) return false;
+  static constexpr std::string_view kKeywords[] = {"SELECT", "WHERE", "AND", "OR", "NOT", "WHEN",
+                                                   "THEN", "ELSE", "BETWEEN", "IN", "ON", "HAVING",
+                                                   "SET", "BY", "IS", "VALUES", "LIKE"};
+  for (std::string_view k : kKeywords) {
+    if (Is(t, before, k)) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 std::string PatternRegex(std::string_view pattern) {
@@ -73,8 +90,15 @@ Translation TranslateForServer(const Tokens& tokens, const std::string& counter)
   for (size_t i = 0; i < t.size(); ++i) {
     if (t[i].kind == Tok::kParam) {
       const size_t before = Prev(t, i);
-      const bool pattern = Is(t, before, "LIKE");
-      out.binds.push_back({value++, pattern ? Bind::Part::kPattern : Bind::Part::kValue});
+      const bool pattern = Is(tokens, before, "LIKE");
+      Bind::Part part = pattern ? Bind::Part::kPattern : Bind::Part::kValue;
+      // A sign before a value goes into the value: the server cannot tell
+      // which minus is meant for a value of no type yet.
+      if (!pattern && Is(t, before, "-") && UnarySign(t, before)) {
+        t[before].text.clear();
+        part = Bind::Part::kNegated;
+      }
+      out.binds.push_back({value++, part});
       t[i].text = "$" + std::to_string(out.binds.size());
     } else if (t[i].kind == Tok::kPunct && t[i].text == "&") {
       t[i].text = "||";

@@ -31,6 +31,11 @@ std::string Quoted(std::string_view text) {
   return out + "'";
 }
 
+// A value with a minus sign before it, as the server reads a number.
+std::string Negated(const std::string& text) {
+  return text.starts_with('-') ? text.substr(1) : "-" + text;
+}
+
 }  // namespace
 
 std::shared_ptr<PgConnection> PgConnection::Open(const std::string& uri, bool read_only) {
@@ -144,6 +149,8 @@ PgResult PgConnection::RunOnce(const Shape& shape, Prepared& entry) {
     const Literal& v = shape.values[b.value];
     if (b.part == Bind::Part::kPattern && v.kind == Literal::Kind::kText) {
       values.push_back(patterns.emplace_back(PatternRegex(v.text)).c_str());
+    } else if (b.part == Bind::Part::kNegated) {
+      values.push_back(patterns.emplace_back(Negated(v.text)).c_str());
     } else {
       values.push_back(v.text.c_str());
     }
@@ -244,7 +251,9 @@ std::string PgConnection::Translate(std::string_view sql) const {
     if (written[i].text == "$" && i + 1 < written.size() && written[i + 1].kind == Tok::kNumber) {
       const Bind& b = translation.binds[std::stoul(written[i + 1].text) - 1];
       const Literal& v = shape.values[b.value];
-      const std::string text = b.part == Bind::Part::kPattern ? PatternRegex(v.text) : v.text;
+      const std::string text = b.part == Bind::Part::kPattern   ? PatternRegex(v.text)
+                               : b.part == Bind::Part::kNegated ? Negated(v.text)
+                                                                : v.text;
       out += v.kind == Literal::Kind::kText ? Quoted(text) : text;
       ++i;
     } else {

@@ -7,6 +7,7 @@ list(APPEND ZERBAL_TEST_SOURCES
   data/keys_test.cc
   data/open_test.cc
   data/replace_test.cc
+  data/server_test.cc
   data/statement_cache_test.cc
   data/table_defs_test.cc
 )
