@@ -13,6 +13,8 @@
 #include <benchmark/benchmark.h>
 #include <stdlib.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -24,6 +26,7 @@
 #include "cli/demo_data.h"
 #include "cli/import_file.h"
 #include "data/engine.h"
+#include "data/pg.h"
 #include "fileformat/seleccion.h"
 #include "tests/fileformat/campos_estatales.h"
 #include "zerbal/databases.h"
@@ -228,6 +231,109 @@ void BM_ImportFile(benchmark::State& state, Kind kind) {
 BENCHMARK_CAPTURE(BM_ImportFile, 2014, k2014)->Apply(Sizes);
 BENCHMARK_CAPTURE(BM_ImportFile, 2012, k2012)->Apply(Sizes);
 BENCHMARK_CAPTURE(BM_ImportFile, state_2014, kState)->Apply(Sizes);
+
+// The same file into a data database on the PostgreSQL server that
+// ZERBAL_BENCH_PG names (a URI of a database where the bench may create
+// others; over a Unix socket, e.g. postgresql:///postgres?host=/tmp/pg), in
+// one process and split by declarant among four processes at once; the
+// four processes on a file beside it. Without ZERBAL_BENCH_PG they say so
+// and measure nothing.
+std::string FreshServerDatabase() {
+  const char* server = std::getenv("ZERBAL_BENCH_PG");
+  if (server == nullptr || *server == '\0') return {};
+  data::PgHandle conn = data::PgConnect(server);
+  PQsetNoticeProcessor(conn.get(), [](void*, const char*) {}, nullptr);
+  data::PgExecScript(conn.get(), "DROP DATABASE IF EXISTS zerbal_bench WITH (FORCE)");
+  data::PgExecScript(conn.get(), "CREATE DATABASE zerbal_bench TEMPLATE template0 ENCODING 'UTF8'");
+  const std::string uri = data::PgUriWithDatabase(server, "zerbal_bench");
+  CreateDataDatabase(uri);
+  return uri;
+}
+
+// The 2014 file's lines of every `parts`-th run of declarants, from the
+// `part`-th on, with the presenter line first.
+fs::path Part(int part, int parts) {
+  const fs::path out = Shared().dir / ("part_" + std::to_string(part) + "_of_" + std::to_string(parts));
+  if (fs::exists(out)) return out;
+  std::ifstream in(Shared().files[k2014], std::ios::binary);
+  std::ofstream copy(out, std::ios::binary);
+  std::string line;
+  int declarant = -1;
+  while (std::getline(in, line)) {
+    if (!line.empty() && line[0] == '1') ++declarant;
+    if (declarant < 0 || declarant * parts / kDeclarants == part) copy << line << "\n";
+  }
+  return out;
+}
+
+ImportSummary ImportInto(const std::string& data, const fs::path& lookup, const fs::path& file) {
+  ImportOptions options;
+  options.data = data;
+  options.lookup = lookup;
+  options.file = file;
+  options.year_max = 2014;
+  return ImportFile(options);
+}
+
+void BM_ImportFileServer(benchmark::State& state) {
+  const fs::path file = Prefix(k2014, state.range(0));
+  int64_t lines = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    const std::string uri = FreshServerDatabase();
+    if (uri.empty()) {
+      state.SkipWithError("ZERBAL_BENCH_PG is not set");
+      break;
+    }
+    const DatabasePaths paths = FreshDatabases("server");
+    state.ResumeTiming();
+    const ImportSummary s = ImportInto(uri, paths.lookup, file);
+    if (s.refused != 0) state.SkipWithError("lines were refused");
+    lines += s.lines;
+  }
+  Rates(state, lines);
+}
+BENCHMARK(BM_ImportFileServer)->Arg(10000)->Arg(101301)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
+
+// Four processes at once, each importing its part of the whole file.
+void BM_ImportFileFourProcesses(benchmark::State& state, bool server) {
+  constexpr int kProcesses = 4;
+  for (int p = 0; p < kProcesses; ++p) Part(p, kProcesses);
+  int64_t lines = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    const DatabasePaths paths = FreshDatabases("four");
+    const std::string data = server ? FreshServerDatabase() : paths.data.string();
+    if (data.empty()) {
+      state.SkipWithError("ZERBAL_BENCH_PG is not set");
+      break;
+    }
+    state.ResumeTiming();
+    std::vector<pid_t> children;
+    for (int p = 0; p < kProcesses; ++p) {
+      const pid_t pid = ::fork();
+      if (pid == 0) {
+        // A child leaves without the parent's handles being closed under it.
+        int refused = 1;
+        try {
+          refused = ImportInto(data, paths.lookup, Part(p, kProcesses)).refused == 0 ? 0 : 1;
+        } catch (...) {
+        }
+        ::_exit(refused);
+      }
+      children.push_back(pid);
+    }
+    for (pid_t pid : children) {
+      int status = 0;
+      ::waitpid(pid, &status, 0);
+      if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) state.SkipWithError("a process failed");
+    }
+    lines += Shared().data.size() + kOperations + kRentals + kProcesses;
+  }
+  Rates(state, lines);
+}
+BENCHMARK_CAPTURE(BM_ImportFileFourProcesses, file, false)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
+BENCHMARK_CAPTURE(BM_ImportFileFourProcesses, server, true)->Iterations(1)->Unit(benchmark::kSecond)->UseRealTime();
 
 // The baseline: every row of the file inserted with prepared statements.
 class Raw {

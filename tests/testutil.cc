@@ -59,11 +59,7 @@ bool OnServer() {
 }
 
 std::string ServerDatabase::WithDatabase(const std::string& uri, const std::string& name) {
-  const size_t authority = uri.find("://") + 3;
-  const size_t path = uri.find_first_of("/?", authority);
-  if (path == std::string::npos) return uri + "/" + name;
-  const size_t end = uri[path] == '?' ? path : uri.find('?', path);
-  return uri.substr(0, path) + "/" + name + (end == std::string::npos ? "" : uri.substr(end));
+  return data::PgUriWithDatabase(uri, name);
 }
 
 ServerDatabase::ServerDatabase() {

@@ -75,6 +75,14 @@ PgHandle PgConnect(const std::string& uri) {
   return conn;
 }
 
+std::string PgUriWithDatabase(const std::string& uri, const std::string& name) {
+  const size_t authority = uri.find("://") + 3;
+  const size_t path = uri.find_first_of("/?", authority);
+  if (path == std::string::npos) return uri + "/" + name;
+  const size_t end = uri[path] == '?' ? path : uri.find('?', path);
+  return uri.substr(0, path) + "/" + name + (end == std::string::npos ? "" : uri.substr(end));
+}
+
 bool PgSucceeded(const PGresult* result) {
   if (result == nullptr) return false;
   const ExecStatusType status = PQresultStatus(result);

@@ -29,6 +29,9 @@ using PgResult = std::unique_ptr<PGresult, PgResultCloser>;
 // server cannot be reached or refuses the user or password. Creates nothing.
 PgHandle PgConnect(const std::string& uri);
 
+// `uri` (a server URI) naming the database `name` instead of its own.
+std::string PgUriWithDatabase(const std::string& uri, const std::string& name);
+
 // Whether `result` is a success (commands, rows, or an empty query).
 bool PgSucceeded(const PGresult* result);
 
