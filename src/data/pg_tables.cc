@@ -82,6 +82,18 @@ void Rebuild(PGconn* conn, const TableSchema& old, const std::vector<FieldDef>& 
            (PQgetvalue(value.get(), 0, 1)[0] == 't' ? "true" : "false");
   }
   PgExecScript(conn, "ALTER TABLE " + table + " RENAME TO " + std::string(kOldTable));
+  // Its key and counter keep their names for the table built in its place.
+  PgResult key = PgExec(conn, "SELECT conname FROM pg_constraint WHERE contype = 'p' AND conrelid = $1::regclass",
+                        {kOldTable.data()});
+  if (PQntuples(key.get()) > 0) {
+    PgExecScript(conn, "ALTER TABLE " + std::string(kOldTable) + " RENAME CONSTRAINT " +
+                           PQgetvalue(key.get(), 0, 0) + " TO " + std::string(kOldTable) + "_pkey");
+  }
+  if (!counter.empty()) {
+    PgResult seq = PgExec(conn, "SELECT pg_get_serial_sequence($1, $2)", {kOldTable.data(), counter.c_str()});
+    PgExecScript(conn, "ALTER SEQUENCE " + std::string(PQgetvalue(seq.get(), 0, 0)) + " RENAME TO " +
+                           std::string(kOldTable) + "_seq");
+  }
   PgExecScript(conn, CreateSql(table, fields));
   PgExecScript(conn, "INSERT INTO " + table + " (" + into + ") SELECT " + into + " FROM " +
                          std::string(kOldTable));

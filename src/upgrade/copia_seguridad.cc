@@ -1,7 +1,11 @@
 #include "upgrade/copia_seguridad.h"
 
+#include <spawn.h>
+#include <sys/wait.h>
+
 #include <filesystem>
 
+#include "data/connection.h"
 #include "data/engine.h"
 #include "zerbal/platform.h"
 
@@ -16,7 +20,28 @@ void RemoveQuietly(const std::string& path) {
   fs::remove(path + "-journal", ignored);
 }
 
+extern "C" char** environ;
+
+// A database on a server is copied by the server's own dump (tables and
+// rows, pg_restore reads it back), taken by the pg_dump on the PATH.
+void Dump(const std::string& uri, const std::string& to) {
+  std::string program = "pg_dump";
+  std::string format = "--format=custom";
+  std::string dbname = "--dbname=" + uri;
+  std::string file = "--file=" + to;
+  char* argv[] = {program.data(), format.data(), dbname.data(), file.data(), nullptr};
+  pid_t pid = -1;
+  if (::posix_spawnp(&pid, program.c_str(), nullptr, nullptr, argv, environ) != 0) {
+    throw std::runtime_error("pg_dump could not be started");
+  }
+  int status = 0;
+  if (::waitpid(pid, &status, 0) != pid || !WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+    throw std::runtime_error("pg_dump failed");
+  }
+}
+
 void Copy(const std::string& from, const std::string& to) {
+  if (data::IsServerName(from)) return Dump(from, to);
   const auto source = data::EngineConnection::Open(from, /*read_only=*/true);
   sqlite3* raw = nullptr;
   const int rc = sqlite3_open_v2(to.c_str(), &raw,

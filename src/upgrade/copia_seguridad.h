@@ -21,7 +21,9 @@ inline constexpr std::string_view kMensajeCopia =
 // 1 copied, 2 not copied because the file exists, 0 failed (the message
 // above shown). The copy is the engine's own, page by page, of the
 // database as its last completed change left it, and it is written under
-// another name first, so that `copia` never holds part of a database.
+// another name first, so that `copia` never holds part of a database. A
+// database on a server (a postgresql:// URI) is copied by pg_dump, in its
+// custom format, which pg_restore reads back.
 uint8_t CopiaSeguridad(const std::string& mdbmod, const std::string& copia);
 
 // Deletes `copia` when it exists; any error is ignored.

@@ -14,7 +14,10 @@
 #include "data/pg.h"
 #include "fileformat/seleccion.h"
 #include "testutil.h"
+#include "upgrade/columnas.h"
+#include "upgrade/copia_seguridad.h"
 #include "zerbal/databases.h"
+#include "zerbal/traspaso.h"
 #include "zerbal/declarado.h"
 #include "zerbal/declarante.h"
 
@@ -28,7 +31,7 @@ using Rows = std::vector<std::vector<Variant>>;
 constexpr int kProcesses = 4;
 constexpr int kDeclarants = 5;     // per process
 constexpr int kOperations = 40;    // per declarant
-constexpr int kSaves = 150;        // per process, into one declaration
+constexpr int kSaves = 60;  // per process, into one declaration
 
 std::string Dni(int number) { return std::to_string(number) + "TRWAGMYFPDXBNJZSQVHLCKE"[number % 23]; }
 
@@ -153,6 +156,43 @@ TEST_F(ServerTest, WhatCannotBeOpenedIsANumberedErrorAndNothingIsCreated) {
             (Rows{{0}}));
   EXPECT_RAISES(CreateDataDatabase(mod_), errc::kFileAlreadyExists) << "init twice";
   EXPECT_RAISES(CreateDataDatabase(empty), errc::kDatabaseNotFound) << "init makes no database";
+}
+
+TEST_F(ServerTest, AnEarlierDatabaseIsUpgradedAfterTheServersDumpOfIt) {
+  CreateDataDatabase(mod_, true, 2007);
+  test::Exec(mod_, "INSERT INTO tOperadores (coddeclar, paiso, nifo, importe) VALUES (1, 0, 'A20111111', 5)");
+  test::Exec(mod_, "INSERT INTO tArrendamientos (coddeclar, prova, paiso, nifa, importe) "
+                   "VALUES (1, 99, 0, 'A20222222', 6)");
+  EXPECT_FALSE(upgrade::ColumnasQueFaltan(mod_).empty());
+  const std::string dump = (dir_ / "copia").string();
+  EXPECT_EQ(upgrade::CopiaSeguridad(mod_, dump), 1);
+  EXPECT_EQ(test::Slurp(dump).substr(0, 5), "PGDMP") << "the server's own dump";
+
+  cTraspaso traspaso;
+  traspaso.mdbmod(mod_);
+  traspaso.mdbPath((dir_.path() / "").string());
+  traspaso.Traspaso();
+  EXPECT_EQ(upgrade::ColumnasQueFaltan(mod_), std::vector<std::string>{});
+  EXPECT_EQ(test::Rows(mod_, "SELECT nifo, importe, impmet FROM tOperadores"), (Rows{{"A20111111", 5.0, 0.0}}));
+  EXPECT_EQ(test::Rows(mod_, "SELECT nifa, provi, prova FROM tArrendamientos"), (Rows{{"A20222222", 20, 0}}));
+  EXPECT_FALSE(std::filesystem::exists(dir_ / std::string(upgrade::kCopiaSeguridad)))
+      << "the copy goes when the upgrade ends";
+  // Column by column, in order, with types, defaults and checks, as a new one.
+  const std::string columns =
+      "SELECT c.relname, a.attname, format_type(a.atttypid, a.atttypmod), a.attnotnull, "
+      "coalesce(pg_get_expr(d.adbin, d.adrelid), ''), a.attidentity FROM pg_attribute a "
+      "JOIN pg_class c ON c.oid = a.attrelid JOIN pg_namespace n ON n.oid = c.relnamespace "
+      "LEFT JOIN pg_attrdef d ON d.adrelid = a.attrelid AND d.adnum = a.attnum "
+      "WHERE n.nspname = 'public' AND c.relkind = 'r' AND a.attnum > 0 AND NOT a.attisdropped "
+      "ORDER BY c.relname, a.attnum";
+  const std::string checks =
+      "SELECT c.relname, o.conname, pg_get_constraintdef(o.oid) FROM pg_constraint o "
+      "JOIN pg_class c ON c.oid = o.conrelid JOIN pg_namespace n ON n.oid = c.relnamespace "
+      "WHERE n.nspname = 'public' ORDER BY 1, 2";
+  test::ServerDatabase fresh;
+  CreateDataDatabase(fresh.Uri());
+  EXPECT_EQ(test::Rows(mod_, columns), test::Rows(fresh.Uri(), columns));
+  EXPECT_EQ(test::Rows(mod_, checks), test::Rows(fresh.Uri(), checks));
 }
 
 // The children of the tests above, run as processes of their own.
