@@ -17,6 +17,7 @@
 #include "upgrade/columnas.h"
 #include "upgrade/copia_seguridad.h"
 #include "zerbal/databases.h"
+#include "zerbal/datos_generales.h"
 #include "zerbal/traspaso.h"
 #include "zerbal/declarado.h"
 #include "zerbal/declarante.h"
@@ -193,6 +194,24 @@ TEST_F(ServerTest, AnEarlierDatabaseIsUpgradedAfterTheServersDumpOfIt) {
   CreateDataDatabase(fresh.Uri());
   EXPECT_EQ(test::Rows(mod_, columns), test::Rows(fresh.Uri(), columns));
   EXPECT_EQ(test::Rows(mod_, checks), test::Rows(fresh.Uri(), checks));
+}
+
+TEST_F(ServerTest, ALookupDatabaseOnTheServerAnswersAsTheFile) {
+  test::ServerDatabase lookup;
+  CreateLookupDatabase(lookup.Uri());
+  cDatosGenerales on_file, on_server;
+  on_file.mdblec(lec_);
+  on_server.mdblec(lookup.Uri());
+  for (cDatosGenerales* d : {&on_file, &on_server}) d->mdbmod(mod_);
+  for (int32_t idioma : {0, 1}) {
+    EXPECT_EQ(on_server.ObtenerDescriVia("cl", idioma), on_file.ObtenerDescriVia("cl", idioma));
+    EXPECT_EQ(on_server.ObtenerNombreProvincia("20", idioma), on_file.ObtenerNombreProvincia("20", idioma));
+    EXPECT_EQ(on_server.ObtenerDesPais(108, idioma), on_file.ObtenerDesPais(108, idioma));
+    EXPECT_EQ(on_server.ObtenerNombrePaisIntra("fr", idioma), on_file.ObtenerNombrePaisIntra("fr", idioma));
+    EXPECT_EQ(on_server.ObtenerDescripciones(idioma), on_file.ObtenerDescripciones(idioma));
+  }
+  EXPECT_EQ(on_server.ObtenerURLAct(), on_file.ObtenerURLAct());
+  EXPECT_FALSE(on_server.ObtenerNombreProvincia("20", 0).empty());
 }
 
 // The children of the tests above, run as processes of their own.
