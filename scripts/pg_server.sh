@@ -4,9 +4,8 @@
 # by zerbal_pg_stop. Sourced by scripts/test.
 #
 # zerbal_pg_start exports ZERBAL_TEST_PG, the URI of the server's maintenance
-# database as a superuser that may create databases and roles. Members of the
-# role zerbal_password_users must give their password; everyone else is
-# trusted on the socket.
+# database as a superuser that may create databases and roles. That user is
+# trusted on the socket; every other role must give its password.
 
 zerbal_pg_bin() {
   ls -d /usr/lib/postgresql/*/bin 2>/dev/null | sort -V | tail -n 1
@@ -25,14 +24,13 @@ zerbal_pg_start() {
   fi
   "${run[@]}" "$bin/initdb" -D "$ZERBAL_PG_DIR/data" -U "$user" --auth-local=trust \
     -E UTF8 --locale=C.UTF-8 >"$ZERBAL_PG_DIR/initdb.log" 2>&1 || { cat "$ZERBAL_PG_DIR/initdb.log" >&2; return 1; }
-  printf 'local all +zerbal_password_users scram-sha-256\nlocal all all trust\n' \
+  printf 'local all %s trust\nlocal all all scram-sha-256\n' "$user" \
     >"$ZERBAL_PG_DIR/data/pg_hba.conf"
   "${run[@]}" "$bin/pg_ctl" -D "$ZERBAL_PG_DIR/data" -l "$ZERBAL_PG_DIR/server.log" -w \
     -o "-c listen_addresses='' -c unix_socket_directories='$ZERBAL_PG_DIR' -c max_connections=200 -c fsync=off" \
     start >/dev/null || { cat "$ZERBAL_PG_DIR/server.log" >&2; return 1; }
   export ZERBAL_PG_DIR
   export ZERBAL_TEST_PG="postgresql://$user@/postgres?host=$ZERBAL_PG_DIR"
-  "$bin/psql" -q -d "$ZERBAL_TEST_PG" -c "CREATE ROLE zerbal_password_users NOLOGIN" >/dev/null
   echo "PostgreSQL for the tests: $ZERBAL_TEST_PG" >&2
 }
 
