@@ -105,6 +105,11 @@ void AddInsertColumns(Tokens& tokens);
 // new key.
 Translation TranslateForServer(const Tokens& tokens, const std::string& counter);
 
+// The names of a SELECT's columns as the statement writes them (the last
+// word of each item; empty when it ends otherwise), for engines that give
+// them in another case.
+std::vector<std::string> SelectedNames(const Tokens& tokens);
+
 // The regular expression that matches exactly what the original engine's
 // LIKE pattern does: * ? # [..] [!..], everything else literally.
 std::string PatternRegex(std::string_view pattern);

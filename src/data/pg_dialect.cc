@@ -35,6 +35,32 @@ bool UnarySign(const Tokens& t, size_t i) {
   return false;
 }
 
+// "FROM (SELECT ...)" without a name for the subquery: the server wants one.
+void NameSubqueries(Tokens& t) {
+  static constexpr std::string_view kAfterTable[] = {"WHERE", "GROUP", "ORDER", "UNION", "INNER",
+                                                     "LEFT", "RIGHT", "JOIN", "ON", "HAVING",
+                                                     "LIMIT"};
+  int named = 0;
+  for (size_t i = 0; i < t.size(); ++i) {
+    const size_t before = Prev(t, i);
+    if (t[i].text != "(" || !(Is(t, before, "FROM") || Is(t, before, "JOIN") || Is(t, before, ",")) ||
+        !Is(t, Next(t, i + 1), "SELECT")) {
+      continue;
+    }
+    int depth = 0;
+    size_t close = i;
+    for (; close < t.size(); ++close) {
+      if (t[close].text == "(") ++depth;
+      if (t[close].text == ")" && --depth == 0) break;
+    }
+    if (close >= t.size()) return;
+    const size_t after = Next(t, close + 1);
+    bool unnamed = after >= t.size() || t[after].kind == Tok::kPunct;
+    for (std::string_view word : kAfterTable) unnamed = unnamed || Is(t, after, word);
+    if (unnamed) t.insert(t.begin() + close + 1, {Tok::kWord, " AS zerbal_subquery_" + std::to_string(++named)});
+  }
+}
+
 }  // namespace
 
 std::string PatternRegex(std::string_view pattern) {
@@ -70,7 +96,11 @@ std::string PatternRegex(std::string_view pattern) {
         if (p[m] == U'-' && m != k && m + 1 != end) {
           out += '-';
         } else {
-          out += '\\';  // every member literally (escapes stand inside sets too)
+          // Inside a set only these are not themselves; a backslash before
+          // a letter would be an escape of the server's own.
+          if (p[m] < 0x80 && std::string_view("\\[]^-").find(static_cast<char>(p[m])) != std::string_view::npos) {
+            out += '\\';
+          }
           AppendUtf8(&out, p[m]);
         }
       }
@@ -81,6 +111,32 @@ std::string PatternRegex(std::string_view pattern) {
     }
   }
   return out + "$";
+}
+
+std::vector<std::string> SelectedNames(const Tokens& t) {
+  std::vector<std::string> names;
+  size_t i = Next(t, 0);
+  if (!Is(t, i, "SELECT")) return names;
+  i = Next(t, i + 1);
+  if (Is(t, i, "DISTINCT") || Is(t, i, "ALL")) i = Next(t, i + 1);
+  if (Is(t, i, "TOP")) i = Next(t, Next(t, i + 1) + 1);
+  int depth = 0;
+  size_t last = std::string::npos;  // the item's last token
+  for (; i < t.size(); ++i) {
+    if (t[i].kind == Tok::kSpace) continue;
+    const bool end = depth == 0 && (t[i].text == "," || Is(t, i, "FROM"));
+    if (end) {
+      names.push_back(last != std::string::npos && t[last].kind == Tok::kWord ? t[last].text : "");
+      if (Is(t, i, "FROM")) return names;
+      last = std::string::npos;
+      continue;
+    }
+    if (t[i].text == "(") ++depth;
+    if (t[i].text == ")") --depth;
+    last = i;
+  }
+  names.push_back(last != std::string::npos && t[last].kind == Tok::kWord ? t[last].text : "");
+  return names;
 }
 
 Translation TranslateForServer(const Tokens& tokens, const std::string& counter) {
@@ -111,6 +167,7 @@ Translation TranslateForServer(const Tokens& tokens, const std::string& counter)
   }
   RewriteTop(t);
   AddInsertColumns(t);
+  NameSubqueries(t);
   for (const Token& token : t) out.sql += token.text;
   const size_t first = Next(tokens, 0);
   if (!counter.empty() && Is(tokens, first, "INSERT")) out.sql += " RETURNING " + counter;

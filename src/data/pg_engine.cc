@@ -114,6 +114,7 @@ PgConnection::Prepared& PgConnection::Entry(const Shape& shape) {
   const Tokens tokens = Tokenize(shape.text);
   CheckShape(tokens, false);
   made->key_use = KeyUseOf(tokens);
+  made->names = SelectedNames(tokens);
   const std::string counter =
       made->key_use.insert_table.empty() ? std::string() : CounterOf(made->key_use.insert_table);
   Translation translation = TranslateForServer(tokens, counter);
@@ -229,7 +230,13 @@ void PgConnection::Query(std::string_view sql, RecordsetState& out) {
   const PgResult r = Run(shape, entry);
   const int columns = PQnfields(r.get());
   const int rows = PQntuples(r.get());
-  for (int c = 0; c < columns; ++c) out.names.emplace_back(PQfname(r.get(), c));
+  for (int c = 0; c < columns; ++c) {
+    // The server gives unquoted names in lower case; the statement's own
+    // spelling is kept, as a file gives it.
+    const char* name = PQfname(r.get(), c);
+    const bool written = static_cast<size_t>(c) < entry.names.size() && SameText(entry.names[c], name);
+    out.names.emplace_back(written ? entry.names[c] : name);
+  }
   out.values.reserve(static_cast<size_t>(columns) * static_cast<size_t>(rows));
   for (int row = 0; row < rows; ++row) {
     for (int c = 0; c < columns; ++c) out.values.push_back(PgValue(r.get(), row, c));

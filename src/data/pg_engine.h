@@ -62,6 +62,7 @@ class PgConnection final : public Connection {
     std::string sql;
     std::vector<Bind> binds;
     KeyUse key_use;
+    std::vector<std::string> names;  // of its columns, as written
     bool returning = false;  // gives the key of the row it inserts
     bool on_server = false;
   };

@@ -11,6 +11,7 @@
 
 #include "base/text.h"
 #include "cli/import_file.h"
+#include "data/connection.h"
 #include "data/pg.h"
 #include "fileformat/seleccion.h"
 #include "testutil.h"
@@ -212,6 +213,21 @@ TEST_F(ServerTest, ALookupDatabaseOnTheServerAnswersAsTheFile) {
   }
   EXPECT_EQ(on_server.ObtenerURLAct(), on_file.ObtenerURLAct());
   EXPECT_FALSE(on_server.ObtenerNombreProvincia("20", 0).empty());
+}
+
+TEST_F(ServerTest, AWriterKeptWaitingPastTheTimeoutGets3260) {
+  const data::PgHandle other = data::PgConnect(mod_);
+  data::PgExecScript(other.get(), "BEGIN; LOCK TABLE TDeclarante IN EXCLUSIVE MODE");
+  const auto saved = data::BusyTimeout();
+  data::SetBusyTimeout(std::chrono::milliseconds(100));
+  cDeclarante declarante;
+  declarante.mdbmod(mod_);
+  EXPECT_TRUE(declarante.ObtenerDeclarantes().IsNull()) << "reading goes on";
+  EXPECT_RAISES(declarante.GuardarDeclarante(test::PersonBuffer(0, "12345678Z", "Otro")), errc::kLocked);
+  data::SetBusyTimeout(saved);
+  data::PgExecScript(other.get(), "ROLLBACK");
+  EXPECT_EQ(declarante.GuardarDeclarante(test::PersonBuffer(0, "12345678Z", "Otro")), 1)
+      << "and works once the lock is gone";
 }
 
 // The children of the tests above, run as processes of their own.
