@@ -230,6 +230,17 @@ TEST_F(ServerTest, AWriterKeptWaitingPastTheTimeoutGets3260) {
       << "and works once the lock is gone";
 }
 
+TEST_F(ServerTest, AConnectionTheServerDroppedIsOpenedAgain) {
+  cDeclarante declarante;
+  declarante.mdbmod(mod_);
+  EXPECT_EQ(declarante.GuardarDeclarante(test::PersonBuffer(0, "12345678Z", "Uno")), 1);
+  // What a restart of the server does to the connection kept between calls.
+  test::Exec(mod_, "SELECT pg_terminate_backend(pid) FROM pg_stat_activity "
+                   "WHERE datname = current_database() AND pid <> pg_backend_pid()");
+  EXPECT_EQ(declarante.GuardarDeclarante(test::PersonBuffer(0, "87654321X", "Dos")), 2);
+  EXPECT_EQ(test::Rows(mod_, "SELECT count(*) FROM TDeclarante"), (Rows{{2}}));
+}
+
 // The children of the tests above, run as processes of their own.
 TEST(ServerChild, Imports) {
   if (Env("ZERBAL_CHILD_FILE").empty()) GTEST_SKIP() << "a child of ServerTest";
