@@ -190,9 +190,16 @@ PgResult PgConnection::Run(const Shape& shape, Prepared& entry) {
 }
 
 void PgConnection::RunDefinition(const Shape& shape) {
-  CheckShape(Tokenize(shape.text), true);
+  const Tokens tokens = Tokenize(shape.text);
+  CheckShape(tokens, true);
+  for (size_t i = 0; i < tokens.size(); ++i) {
+    if (tokens[i].text == ";" && Next(tokens, i + 1) < tokens.size() && !Is(tokens, Next(tokens, i + 1), ";")) {
+      Raise(errc::kTextAfterStatement, shape.text.substr(0, 60), kEngineSource);
+    }
+  }
   Forget();
-  PgResult r = PgExec(handle_.get(), shape.text);
+  // The extended protocol runs one statement, whatever the text holds.
+  PgExec(handle_.get(), shape.text);
   ReadCounters();
 }
 
