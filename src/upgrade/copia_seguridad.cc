@@ -3,7 +3,11 @@
 #include <spawn.h>
 #include <sys/wait.h>
 
+#include <libpq-fe.h>
+
 #include <filesystem>
+#include <string_view>
+#include <vector>
 
 #include "data/connection.h"
 #include "data/engine.h"
@@ -22,16 +26,53 @@ void RemoveQuietly(const std::string& path) {
 
 extern "C" char** environ;
 
+// The connection string of `uri` without its password, which goes to
+// `password` instead: a command line is visible to every user of the machine.
+std::string WithoutPassword(const std::string& uri, std::string* password) {
+  char* error = nullptr;
+  PQconninfoOption* options = PQconninfoParse(uri.c_str(), &error);
+  if (options == nullptr) {
+    PQfreemem(error);
+    throw std::runtime_error("not a connection URI");
+  }
+  std::string conninfo;
+  for (const PQconninfoOption* o = options; o->keyword != nullptr; ++o) {
+    if (o->val == nullptr) continue;
+    if (std::string_view(o->keyword) == "password") {
+      *password = o->val;
+      continue;
+    }
+    std::string value;
+    for (const char* c = o->val; *c; ++c) {
+      if (*c == '\\' || *c == '\'') value += '\\';
+      value += *c;
+    }
+    conninfo += std::string(conninfo.empty() ? "" : " ") + o->keyword + "='" + value + "'";
+  }
+  PQconninfoFree(options);
+  return conninfo;
+}
+
 // A database on a server is copied by the server's own dump (tables and
 // rows, pg_restore reads it back), taken by the pg_dump on the PATH.
 void Dump(const std::string& uri, const std::string& to) {
+  std::string password;
   std::string program = "pg_dump";
   std::string format = "--format=custom";
-  std::string dbname = "--dbname=" + uri;
+  std::string dbname = "--dbname=" + WithoutPassword(uri, &password);
   std::string file = "--file=" + to;
   char* argv[] = {program.data(), format.data(), dbname.data(), file.data(), nullptr};
+  std::vector<std::string> env_text;
+  for (char** e = environ; *e != nullptr; ++e) {
+    if (!password.empty() && std::string_view(*e).starts_with("PGPASSWORD=")) continue;
+    env_text.emplace_back(*e);
+  }
+  if (!password.empty()) env_text.push_back("PGPASSWORD=" + password);
+  std::vector<char*> env;
+  for (std::string& e : env_text) env.push_back(e.data());
+  env.push_back(nullptr);
   pid_t pid = -1;
-  if (::posix_spawnp(&pid, program.c_str(), nullptr, nullptr, argv, environ) != 0) {
+  if (::posix_spawnp(&pid, program.c_str(), nullptr, nullptr, argv, env.data()) != 0) {
     throw std::runtime_error("pg_dump could not be started");
   }
   int status = 0;
