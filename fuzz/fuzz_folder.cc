@@ -2,13 +2,13 @@
 
 #include <fcntl.h>
 #include <stdlib.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
 
+#include "data/file_identity.h"
 #include "zerbal/databases.h"
 
 namespace zerbal::fuzz {
@@ -16,12 +16,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string Stamp(const std::string& path) {
-  struct stat st {};
-  if (::stat(path.c_str(), &st) != 0) return "none;";
-  return std::to_string(st.st_ino) + ',' + std::to_string(st.st_size) + ',' +
-         std::to_string(st.st_mtim.tv_sec) + ',' + std::to_string(st.st_mtim.tv_nsec) + ',' +
-         std::to_string(st.st_mode) + ';';
+// The file's identity; a file gone (an input may remove one) counts as changed.
+data::FileIdentity Stamp(const std::string& path) {
+  try {
+    return data::InspectFile(path);
+  } catch (const Error&) {
+    return {};
+  }
 }
 
 void PutBack(const fs::path& pristine, const std::string& path) {

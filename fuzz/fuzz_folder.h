@@ -8,6 +8,7 @@
 
 #include <string>
 
+#include "data/file_identity.h"
 #include "zerbal/error.h"
 
 namespace zerbal::fuzz {
@@ -44,8 +45,8 @@ class FuzzFolder {
   std::string data_;
   std::string lookup_;
   // Each file's identity and times as put back last.
-  std::string data_stamp_;
-  std::string lookup_stamp_;
+  data::FileIdentity data_stamp_;
+  data::FileIdentity lookup_stamp_;
 };
 
 // Runs `body`: a raised zerbal::Error is an answer like any other; anything
