@@ -15,9 +15,7 @@ zerbal_install_deps() {
 # fuzz targets.
 zerbal_install_fuzz_deps() {
   zerbal_install_packages clang
-  local runtime
-  runtime="libclang-rt-$(clang -dumpversion | cut -d. -f1)-dev"
-  if apt-cache show "$runtime" >/dev/null 2>&1; then zerbal_install_packages "$runtime"; fi
+  zerbal_install_packages "libclang-rt-$(clang -dumpversion | cut -d. -f1)-dev"
 }
 
 zerbal_install_packages() {
