@@ -3,9 +3,9 @@
 // session in the fuzz folder, where the databases are 347mod.db and
 // 347lec.db.
 //
-// An input that could name a file outside the fuzz folder (any "/", also
-// escaped) is passed over: the bridge writes and removes the files a client
-// names, as it must.
+// An input that could name a file outside the fuzz folder, or a server
+// (any "/", also escaped) is passed over: the bridge writes and removes the
+// files a client names, as it must.
 
 #include <cstddef>
 #include <cstdint>
