@@ -102,8 +102,6 @@ TEST_F(ConexionTest, InicializaBDAlwaysActsOnTheSharedInstance) {
   own.InicializaBD(mod_);
   EXPECT_RAISES(own.execute("DELETE FROM tGeneral"), 91) << "its own database was never opened";
   Conexion().execute("DELETE FROM tGeneral");
-  own.Ddname("kept");
-  EXPECT_EQ(own.Ddname(), "kept");
 }
 
 TEST_F(ConexionTest, EachThreadHasItsOwnConnection) {

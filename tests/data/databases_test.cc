@@ -10,80 +10,48 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using Columns = std::vector<std::pair<std::string, std::string>>;
-
-Columns Long(std::initializer_list<const char*> names) {
-  Columns out;
-  for (const char* n : names) out.emplace_back(n, "INTEGER");
-  return out;
-}
-
-// table -> its columns in order, with the engine type of each.
-std::map<std::string, Columns> ActualSchema(const std::string& path) {
-  std::map<std::string, Columns> schema;
+// table -> "column T, column I, ..." in order, with the engine type's initial.
+std::map<std::string, std::string> ActualSchema(const fs::path& path) {
+  std::map<std::string, std::string> schema;
   for (const auto& table :
-       test::Rows(path, "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE "
-                        "'sqlite*'")) {
+       test::Rows(path.string(), "SELECT name FROM sqlite_schema WHERE type = 'table' AND name "
+                                 "NOT LIKE 'sqlite*'")) {
     const std::string name = table[0].AsString();
-    for (const auto& column :
-         test::Rows(path, "SELECT name, type FROM pragma_table_info('" + name + "')")) {
-      schema[name].emplace_back(column[0].AsString(), column[1].AsString());
+    for (const auto& column : test::Rows(
+             path.string(), "SELECT name, type FROM pragma_table_info('" + name + "')")) {
+      std::string& columns = schema[name];
+      columns += (columns.empty() ? "" : ", ") + column[0].AsString() + " " +
+                 column[1].AsString().substr(0, 1);
     }
   }
   return schema;
 }
 
-Columns PersonColumns(std::string_view key, std::initializer_list<const char*> names) {
-  Columns out{{std::string(key), "INTEGER"}};
-  for (const char* n : names) {
-    const std::string s(n);
-    const bool number = s.starts_with("numero") || s == "cod" || s.starts_with("codpostal") ||
-                        s.starts_with("prefijo");
-    out.emplace_back(s, number ? "INTEGER" : "TEXT");
-  }
-  return out;
-}
-
-TEST(DatabasesTest, TheDataDatabaseHasEveryTableAndColumn) {
+TEST(DatabasesTest, BothDatabasesHaveEveryTableAndColumn) {
   test::TempDir dir;
   const DatabasePaths paths = CreateDatabases(dir.path());
-  Columns operations = Long({"codope", "coddeclar", "provo"});
-  for (const char* text : {"paiso", "nifo", "razon", "claveopo"}) operations.emplace_back(text, "TEXT");
-  for (const char* real : {"importe", "impmet", "impinm"}) operations.emplace_back(real, "REAL");
-  for (const char* text : {"claverep", "opeseg", "opearr"}) operations.emplace_back(text, "TEXT");
-  operations.emplace_back("ejerimpmet", "INTEGER");
-  for (const char* real : {"impopeT1", "impopeT2", "impopeT3", "impopeT4", "impmobT1", "impmobT2",
-                           "impmobT3", "impmobT4"}) {
-    operations.emplace_back(real, "REAL");
-  }
-  for (const char* text :
-       {"siglaspaisintra", "nifpaisintra", "opeivacaja", "opeinvsujpas", "operegposadu"}) {
-    operations.emplace_back(text, "TEXT");
-  }
-  operations.emplace_back("impanudevopecaj", "REAL");
-  Columns rentals = Long({"codarr", "coddeclar", "prova", "provi"});
-  for (const char* text : {"paiso", "nifa", "razon"}) rentals.emplace_back(text, "TEXT");
-  rentals.emplace_back("importe", "REAL");
-  for (const char* text : {"municipioa", "refcat", "viaa", "domicilioa"}) rentals.emplace_back(text, "TEXT");
-  rentals.emplace_back("numeroa", "INTEGER");
-  for (const char* text : {"escaleraa", "pisoa", "puertaa"}) rentals.emplace_back(text, "TEXT");
-
-  const std::map<std::string, Columns> expected = {
-      {"TDeclarante", PersonColumns("coddec", {"dni_cifd", "nombred", "viad", "domiciliod", "numerod",
-                                         "letrad", "escalerad", "pisod", "manod", "cod",
-                                         "municipiod", "codpostald", "prefijod", "telefonod",
-                                         "nombrepd", "prefijopd", "telefonopd"})},
-      {"TDeclaraciones", {{"coddecla", "INTEGER"}, {"coddecr", "INTEGER"},
-                          {"ejercicio", "INTEGER"}, {"moneda", "TEXT"}}},
-      {"tOperadores", operations},
-      {"tArrendamientos", rentals},
-      {"TPresentador", PersonColumns("codpres", {"dni_cif", "nombre", "via", "domicilio", "numero",
-                                           "letra", "escalera", "piso", "mano", "cod",
-                                           "codpostal", "municipio", "prefijo", "telefono",
-                                           "nombrep", "prefijop", "telefonop"})},
-      {"tGeneral", {{"ActOnline", "INTEGER"}, {"Idioma", "TEXT"}}},
+  const std::map<std::string, std::string> data = {
+      {"TDeclarante",
+       "coddec I, dni_cifd T, nombred T, viad T, domiciliod T, numerod I, letrad T, escalerad T, "
+       "pisod T, manod T, cod I, municipiod T, codpostald I, prefijod I, telefonod T, nombrepd T, "
+       "prefijopd I, telefonopd T"},
+      {"TDeclaraciones", "coddecla I, coddecr I, ejercicio I, moneda T"},
+      {"tOperadores",
+       "codope I, coddeclar I, provo I, paiso T, nifo T, razon T, claveopo T, importe R, impmet R, "
+       "impinm R, claverep T, opeseg T, opearr T, ejerimpmet I, impopeT1 R, impopeT2 R, "
+       "impopeT3 R, impopeT4 R, impmobT1 R, impmobT2 R, impmobT3 R, impmobT4 R, "
+       "siglaspaisintra T, nifpaisintra T, opeivacaja T, opeinvsujpas T, operegposadu T, "
+       "impanudevopecaj R"},
+      {"tArrendamientos",
+       "codarr I, coddeclar I, prova I, provi I, paiso T, nifa T, razon T, importe R, "
+       "municipioa T, refcat T, viaa T, domicilioa T, numeroa I, escaleraa T, pisoa T, puertaa T"},
+      {"TPresentador",
+       "codpres I, dni_cif T, nombre T, via T, domicilio T, numero I, letra T, escalera T, piso T, "
+       "mano T, cod I, codpostal I, municipio T, prefijo I, telefono T, nombrep T, prefijop I, "
+       "telefonop T"},
+      {"tGeneral", "ActOnline I, Idioma T"},
   };
-  EXPECT_EQ(ActualSchema(paths.data.string()), expected);
+  EXPECT_EQ(ActualSchema(paths.data), data);
   EXPECT_EQ(test::Rows(paths.data.string(), "SELECT ActOnline, Idioma FROM tGeneral"),
             (std::vector<std::vector<Variant>>{{0, "C"}}));
   EXPECT_EQ(test::Rows(paths.data.string(),
@@ -93,26 +61,15 @@ TEST(DatabasesTest, TheDataDatabaseHasEveryTableAndColumn) {
                                                {"TDeclarante_dni_cifd"},
                                                {"tArrendamientos_coddeclar"},
                                                {"tOperadores_coddeclar"}}));
-}
-
-TEST(DatabasesTest, TheLookupDatabaseHasEveryTableAndColumn) {
-  test::TempDir dir;
-  const DatabasePaths paths = CreateDatabases(dir.path());
-  const auto text = [](std::initializer_list<const char*> names) {
-    Columns out;
-    for (const char* n : names) out.emplace_back(n, "TEXT");
-    return out;
+  const std::map<std::string, std::string> lookup = {
+      {"TOperaciones", "codigo T, descripcionc T, descripcione T"},
+      {"TPROVINCIAS", "PRO_ID T, PRO_CAS T, PRO_EUS T"},
+      {"TSIGLASVIA", "codigo T, CAS T, EUS T"},
+      {"TPaises", "codigo I, PAISCAS T, PAISEUS T"},
+      {"TSiglasPais", "SIGLASPAIS T, PAIS T, paiseus T"},
+      {"tgeneral", "URLAct T, Descripcion T"},
   };
-  Columns countries{{"codigo", "INTEGER"}, {"PAISCAS", "TEXT"}, {"PAISEUS", "TEXT"}};
-  const std::map<std::string, Columns> expected = {
-      {"TOperaciones", text({"codigo", "descripcionc", "descripcione"})},
-      {"TPROVINCIAS", text({"PRO_ID", "PRO_CAS", "PRO_EUS"})},
-      {"TSIGLASVIA", text({"codigo", "CAS", "EUS"})},
-      {"TPaises", countries},
-      {"TSiglasPais", text({"SIGLASPAIS", "PAIS", "paiseus"})},
-      {"tgeneral", text({"URLAct", "Descripcion"})},
-  };
-  EXPECT_EQ(ActualSchema(paths.lookup.string()), expected);
+  EXPECT_EQ(ActualSchema(paths.lookup), lookup);
 }
 
 TEST(DatabasesTest, ExistingFilesAreKeptUnlessReplacing) {

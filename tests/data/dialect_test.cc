@@ -1,7 +1,5 @@
 // The statements the system builds behave as on the original engine.
 
-#include <sqlite3.h>
-
 #include "data/engine.h"
 #include "testutil.h"
 #include "zerbal/conexion_dao.h"
@@ -30,17 +28,11 @@ class DialectTest : public test::DatabaseTest {
   }
   // The engine's plan for the statement as the layer translates it.
   std::string Plan(const std::string& sql) {
-    auto conn = data::EngineConnection::Open(mod_, false);
-    const std::string explain = "EXPLAIN QUERY PLAN " + conn->Translate(sql);
-    sqlite3_stmt* stmt = nullptr;
     std::string plan;
-    if (sqlite3_prepare_v2(conn->db(), explain.c_str(), -1, &stmt, nullptr) != SQLITE_OK) {
-      return "(not prepared)";
+    const std::string translated = data::EngineConnection::Open(mod_, false)->Translate(sql);
+    for (const auto& row : test::Rows(mod_, "EXPLAIN QUERY PLAN " + translated)) {
+      plan += row[3].AsString();
     }
-    while (sqlite3_step(stmt) == SQLITE_ROW) {
-      plan += reinterpret_cast<const char*>(sqlite3_column_text(stmt, 3));
-    }
-    sqlite3_finalize(stmt);
     return plan;
   }
   using Strings = std::vector<std::string>;

@@ -42,16 +42,20 @@ class InjectionTest : public test::DatabaseTest {
 };
 
 TEST_F(InjectionTest, EveryAttemptIsRefusedAndChangesNothing) {
-  const auto telephone = [&] {
-    Variant buffer = test::PersonBuffer(code_, "12345678Z", "Irizar");
-    buffer(14) = "1', nombred='PWNED', dni_cifd='00000000T' WHERE 1=1 --";
-    declarante_.GuardarDeclarante(buffer);
+  const auto telephone = [&](const char* value) {
+    return [&, value] {
+      Variant buffer = test::PersonBuffer(code_, "12345678Z", "Irizar");
+      buffer(14) = value;
+      declarante_.GuardarDeclarante(buffer);
+    };
   };
   const struct {
     const char* name;
     std::function<void()> attempt;
   } rows[] = {
-      {"telephone rewriting every declarant", telephone},
+      {"telephone rewriting every declarant",
+       telephone("1', nombred='PWNED', dni_cifd='00000000T' WHERE 1=1 --")},
+      {"telephone with a blob", telephone("1' || x'41' || '")},
       {"currency adding declarations",
        [&] { declaraciones_.GuardarDeclaracion(2016, "E'), (2, 2099, 'E') --", code_); }},
       {"currency moving every declaration",
@@ -80,11 +84,6 @@ TEST_F(InjectionTest, EveryAttemptIsRefusedAndChangesNothing) {
        }},
       {"identifier joining texts the engine's way",
        [&] { declarante_.NifRepetido("zz' || '"); }},
-      {"telephone with a blob", [&] {
-         Variant buffer = test::PersonBuffer(code_, "12345678Z", "Irizar");
-         buffer(14) = "1' || x'41' || '";
-         declarante_.GuardarDeclarante(buffer);
-       }},
   };
   const auto before = Everything();
   for (const auto& row : rows) {

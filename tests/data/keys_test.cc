@@ -39,18 +39,14 @@ TEST_F(KeysTest, SavesFromSeveralProcessesEachGetTheirOwnKey) {
   }
   for (std::thread& t : threads) t.join();
 
-  int wrong = 0;
   for (const auto& process : saved) {
     for (const Saved& s : process) {
-      const auto rows = test::Rows(mod_, "SELECT dni_cifd FROM TDeclarante WHERE coddec = " +
-                                             std::to_string(s.key));
-      if (rows.size() != 1 || rows[0][0] != Variant(s.nif)) {
-        ++wrong;
-        ADD_FAILURE() << s.nif << " answered key " << s.key;
-      }
+      EXPECT_EQ(test::Rows(mod_, "SELECT dni_cifd FROM TDeclarante WHERE coddec = " +
+                                     std::to_string(s.key)),
+                (std::vector<std::vector<Variant>>{{s.nif}}))
+          << s.nif << " answered key " << s.key;
     }
   }
-  EXPECT_EQ(wrong, 0);
   EXPECT_EQ(test::Rows(mod_, "SELECT count(*) FROM TDeclarante")[0][0],
             Variant(kProcesses * kSaves));
 }

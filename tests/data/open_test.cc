@@ -9,7 +9,6 @@
 #include "data/engine.h"
 #include "testutil.h"
 #include "zerbal/conexion_dao.h"
-#include "zerbal/databases.h"
 
 namespace zerbal {
 namespace {
@@ -121,18 +120,6 @@ TEST_F(OpenTest, AWriterWaitsForALockThenGivesUp) {
   sqlite3_close(other);
   Conexion().execute("UPDATE tGeneral SET Idioma = 'E'");
   data::SetBusyTimeout(saved);
-}
-
-TEST_F(OpenTest, AFileReplacedOnDiskIsOpenedAfresh) {
-  Open(mod_);
-  Conexion().execute("INSERT INTO TDeclarante (dni_cifd) VALUES ('old')");
-  Conexion().Cerrar();
-  CreateDataDatabase(mod_, /*replace=*/true);
-  Open(mod_);
-  EXPECT_EQ(Count("TDeclarante"), 0);
-  Conexion().execute("INSERT INTO TDeclarante (dni_cifd) VALUES ('new')");
-  EXPECT_EQ(test::Rows(mod_, "SELECT dni_cifd FROM TDeclarante"),
-            (std::vector<std::vector<Variant>>{{"new"}}));
 }
 
 }  // namespace
