@@ -267,9 +267,7 @@ TEST_F(ImportCommandTest, LineEndsEncodingsLayoutsAndInputThatIsNoDeclarationFil
         "operaciones grabadas: 1", "arrendamientos grabados: 1", "líneas no grabadas: 2"}, 1},
   };
   for (const auto& row : rows) {
-    for (const char* table : {"TDeclaraciones", "tOperadores", "tArrendamientos"}) {
-      test::Exec(mod_, std::string("DELETE FROM ") + table);
-    }
+    test::Exec(mod_, "DELETE FROM TDeclaraciones; DELETE FROM tOperadores; DELETE FROM tArrendamientos");
     Args args = {"--dir", Dir(), "--years", "2002-2014"};
     args.insert(args.end(), row.extra.begin(), row.extra.end());
     args.push_back(File("x.txt", row.bytes));

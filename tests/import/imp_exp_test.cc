@@ -40,17 +40,19 @@ class ImpExpTest : public test::DatabaseTest {
     imp_.EjercicioMin(2002);
     imp_.EjercicioMax(2014);
   }
+  Outcome Now(const Variant& errores) {
+    return {imp_.Sujeto(), imp_.Resultado(),
+            errores.IsArray() ? test::ErrorList(errores) : Errors{}};
+  }
   Outcome Spte(std::string line, bool estatal = false) {
     Variant errores;
     imp_.importSpte(line, errores, estatal);
-    return {imp_.Sujeto(), imp_.Resultado(),
-            errores.IsArray() ? test::ErrorList(errores) : Errors{}};
+    return Now(errores);
   }
   Outcome OpeArr(std::string line, uint8_t arr_ope) {
     Variant valores, errores;
     imp_.importOpeArr(line, valores, errores, false, arr_ope);
-    return {imp_.Sujeto(), imp_.Resultado(),
-            errores.IsArray() ? test::ErrorList(errores) : Errors{}};
+    return Now(errores);
   }
   int64_t Count(const std::string& table) {
     return test::Rows(mod_, "SELECT COUNT(*) FROM " + table)[0][0].AsLong();
@@ -59,26 +61,6 @@ class ImpExpTest : public test::DatabaseTest {
 };
 
 const std::string kPresenter = "0347201420B20456786";
-
-TEST_F(ImpExpTest, EachRecordTypeSetsSujetoAndResultado) {
-  imp_.Resultado(9);
-  const struct {
-    const char* name;
-    std::string line;
-    Outcome outcome;
-  } rows[] = {
-      {"presenter: Resultado left as it was", kPresenter, {0, 9, {}}},
-      {"empty line", "", {5, 9, {}}},
-      {"declarant", test::LineaDeclarante(), {1, 0, {}}},
-  };
-  for (const auto& row : rows) EXPECT_EQ(Spte(row.line), row.outcome) << row.name;
-  const Rows declarations =
-      test::Rows(mod_, "SELECT coddecla, ejercicio, moneda FROM TDeclaraciones");
-  ASSERT_EQ(declarations.size(), 1u);
-  EXPECT_EQ(Variant(imp_.Declaracion()), Variant(std::to_string(declarations[0][0].AsLong())));
-  EXPECT_EQ(declarations[0][1], Variant(2014));
-  EXPECT_EQ(declarations[0][2], Variant("E")) << "every imported declaration is in euros";
-}
 
 TEST_F(ImpExpTest, StoredRowsAreTheSaveBuffersOfTheLines) {
   Spte(test::LineaDeclarante());
@@ -104,8 +86,17 @@ TEST_F(ImpExpTest, StoredRowsAreTheSaveBuffersOfTheLines) {
       << "the province doubles as prova only where the country is empty";
 }
 
-TEST_F(ImpExpTest, ARejectedDeclarationSkipsItsLines) {
+TEST_F(ImpExpTest, EachRecordTypeAndARejectedDeclaration) {
+  imp_.Resultado(9);
+  EXPECT_EQ(Spte(kPresenter), (Outcome{0, 9, {}})) << "presenter: Resultado left as it was";
+  EXPECT_EQ(Spte(""), (Outcome{5, 9, {}})) << "empty line";
   ASSERT_EQ(Spte(test::LineaDeclarante()), (Outcome{1, 0, {}}));
+  const Rows declarations =
+      test::Rows(mod_, "SELECT coddecla, ejercicio, moneda FROM TDeclaraciones");
+  ASSERT_EQ(declarations.size(), 1u);
+  EXPECT_EQ(Variant(imp_.Declaracion()), Variant(std::to_string(declarations[0][0].AsLong())));
+  EXPECT_EQ(declarations[0][1], Variant(2014));
+  EXPECT_EQ(declarations[0][2], Variant("E")) << "every imported declaration is in euros";
   EXPECT_EQ(Spte(test::LineaDeclarante()), (Outcome{1, 4, {{31, "2014"}}}));
   EXPECT_TRUE(imp_.RechazarDeclaracion());
   EXPECT_EQ(Spte(test::LineaDeclarado()), (Outcome{3, 4, {}})) << "importSpte leaves Resultado";
@@ -192,7 +183,7 @@ TEST_F(ImpExpTest, StateLinesOfEveryPeriodStoreTheRowsOfTheTreasurysLines) {
         Variant errores;
         imp_.importSpte(line, errores, estatal);
         const Outcome expected{k == 0 ? 1 : static_cast<int>(k) + 2, 0, {}};
-        EXPECT_EQ((Outcome{imp_.Sujeto(), imp_.Resultado(), test::ErrorList(errores)}), expected)
+        EXPECT_EQ(Now(errores), expected)
             << y << (estatal ? " state" : " treasury") << " line " << k + 1;
         if (estatal) {
           EXPECT_EQ(Len(line), lengths[k]) << y << ": the converted line comes back";
