@@ -115,15 +115,11 @@ TEST_F(ReplaceTest, ACompletedCallSurvivesTheProcessBeingKilled) {
 TEST_F(ReplaceTest, AnotherProcessHoldingTheFileWorksOnTheReplacement) {
   for (Replace how : {Replace::kRename, Replace::kCopy}) {
     test::ChildSession child;
-    const std::string buffer =
-        R"({"type":"Array","bounds":[[0,17]],"elements":[CODE,"B20456786","NAME","CL","Nagusia",)"
-        R"(12,"","","","",20,"20005","Donostia",943,"943123456","",0,""]})";
     auto save = [&](const std::string& code, const std::string& name) {
-      std::string b = buffer;
-      b.replace(b.find("CODE"), 4, code);
-      b.replace(b.find("NAME"), 4, name);
-      return child.Ask(R"({"id":3,"op":"call","handle":1,"name":"GuardarPresentador","args":[)" +
-                       b + "]}");
+      return child.Ask(R"({"id":3,"op":"call","handle":1,"name":"GuardarPresentador","args":[)"
+                       R"({"type":"Array","bounds":[[0,17]],"elements":[)" + code +
+                       R"(,"B20456786",")" + name + R"(","CL","Nagusia",12,"","","","",20,)"
+                       R"("20005","Donostia",943,"943123456","",0,""]}]})");
     };
     const std::string load = R"({"id":4,"op":"call","handle":1,"name":"CargarPresentador","args":[null]})";
     child.Ask(R"({"id":1,"op":"create","class":"zerbal.cPresentador"})");
