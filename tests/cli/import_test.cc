@@ -257,6 +257,10 @@ TEST_F(ImportCommandTest, LineEndsEncodingsLayoutsAndInputThatIsNoDeclarationFil
        {"línea 1, registro 2: omitida: no hay un declarante antes"}, 0},
       {"a line of 100,000 characters", std::string(100000, '1') + "\n" + o, {}, 3,
        {"0  NIF del declarante no válido: \"111111111\""}, 0},
+      {"every error of a line, one under another",
+       d + "\n" + std::string(o).replace(75, 16, "N+-ABCDEFGHIJKLM").replace(128, 16, "X-+ABCDEFGHIJKLM"),
+       {}, 3, {"36  Importe con caracteres no numéricos: \"N+-ABCDEFGHIJKLM\"\n"
+               "  56  Signo del importe no válido: \"X-+ABCDEFGHIJKLM\""}, 0},
       {"a state file without --state", StateFile(), {}, 1,
        {"looks like a file in the state agency's layout", "--state imports it"}, 0},
       {"a treasury file with --state", d + "\n" + o, {"--state"}, 1,

@@ -141,9 +141,11 @@ TEST_F(ImpExpTest, LinesThatCannotBelongToTheDeclaration) {
       {"100,000 characters", std::string(100000, '2'), {3, 6, {{48, "2222 - 2014"}}}},
       {"cut in the middle of a field", Left(test::LineaArrendamiento(), 80),
        {4, 3, {{4, ""}, {4, ""}, {2, ""}, {3, ""}}}},
+      {"stored once", test::LineaDeclarado(), {3, 0, {}}},
+      {"the same party with the same keys", test::LineaDeclarado(), {3, 3, {{30, ""}}}},
   };
   for (const auto& row : rows) EXPECT_EQ(Spte(row.line), row.outcome) << row.name;
-  EXPECT_EQ(Count("tOperadores") + Count("tArrendamientos"), 0);
+  EXPECT_EQ(Count("tOperadores") + Count("tArrendamientos"), 1);
 }
 
 // Both sides of each boundary of the declaration's year (the validators)
